@@ -1,0 +1,24 @@
+# Warnings for everything that is built here.
+function(daksdp_warnings target)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow
+        $<$<BOOL:${DAKSDP_WERROR}>:-Werror>)
+endfunction()
+
+# Flags of code that runs inside a client: no C++ runtime, no surprises in conversions.
+function(daksdp_library_flags target)
+    daksdp_warnings(${target})
+    target_compile_options(${target} PRIVATE
+        -Wconversion
+        # Clang counts changes of sign among -Wconversion; GCC does not. One rule for both.
+        -Wno-sign-conversion
+        # Log formats travel through one function, where they are no literals any more.
+        -Wformat=2 -Wno-format-nonliteral
+        -fno-exceptions
+        -fno-rtti
+        -fno-threadsafe-statics
+        -fvisibility-inlines-hidden
+        # Calls inside the library are bound at link time, so they may be inlined as well.
+        -fno-semantic-interposition)
+    set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+endfunction()

@@ -1,0 +1,38 @@
+set(daksdp_folders util codec attr sdp oa)
+list(TRANSFORM daksdp_folders REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/src/\\1/*.cpp" OUTPUT_VARIABLE daksdp_patterns)
+file(GLOB_RECURSE daksdp_sources CONFIGURE_DEPENDS ${daksdp_patterns})
+
+# Compiled once: both libraries hold the same objects.
+add_library(daksdp_objects OBJECT ${daksdp_sources})
+daksdp_library_flags(daksdp_objects)
+target_include_directories(daksdp_objects PRIVATE ${PROJECT_SOURCE_DIR}/src)
+
+add_library(daksdp SHARED $<TARGET_OBJECTS:daksdp_objects>)
+add_library(daksdp::daksdp ALIAS daksdp)
+add_library(daksdp_static STATIC $<TARGET_OBJECTS:daksdp_objects>)
+add_library(daksdp::static ALIAS daksdp_static)
+set_target_properties(daksdp_static PROPERTIES OUTPUT_NAME daksdp EXPORT_NAME static)
+
+foreach(library daksdp daksdp_static)
+    target_include_directories(${library} PUBLIC
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/daksdp>)
+    set_target_properties(${library} PROPERTIES LINKER_LANGUAGE C)
+endforeach()
+
+# CMake would hand libstdc++ to every C link that holds C++ objects. Without it, a call into the
+# C++ runtime stays an undefined symbol for the tests to find.
+set(CMAKE_CXX_IMPLICIT_LINK_LIBRARIES "")
+
+set(daksdp_map ${PROJECT_SOURCE_DIR}/src/daksdp.map)
+set_target_properties(daksdp PROPERTIES
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR}
+    LINK_DEPENDS ${daksdp_map})
+# No -z defs: the platform's symbols stay undefined until a program or the platform brings them.
+# -z now closes the tables of pointers against writing once they are relocated.
+target_link_options(daksdp PRIVATE
+    LINKER:--version-script=${daksdp_map}
+    LINKER:-Bsymbolic-functions
+    LINKER:-z,relro
+    LINKER:-z,now)

@@ -1,0 +1,5 @@
+# Sanitizers take effect only where every object of a program has them, hence directory-wide.
+if(DAKSDP_SANITIZE)
+    add_compile_options(-fsanitize=${DAKSDP_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${DAKSDP_SANITIZE})
+endif()

@@ -1,0 +1,11 @@
+file(GLOB daksdp_tool_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tools/*.cpp)
+
+if(daksdp_tool_sources AND TARGET dakport)
+    find_package(CLI11 REQUIRED)
+    add_executable(daksdp_tool ${daksdp_tool_sources})
+    daksdp_warnings(daksdp_tool)
+    set_target_properties(daksdp_tool PROPERTIES OUTPUT_NAME daksdp)
+    target_link_libraries(daksdp_tool PRIVATE daksdp::daksdp daksdp::port CLI11::CLI11)
+elseif(daksdp_tool_sources)
+    message(STATUS "daksdp: the inspector needs DAKSDP_HOST_PORT and is left out")
+endif()

@@ -1,0 +1,62 @@
+#include "attr/attribute_line.hpp"
+
+#include "sdp/text_buffer.hpp"
+#include "util/report.hpp"
+#include "util/token.h"
+
+namespace dak {
+
+int write_attribute_line(sdp_lib_context *context, const line_builder &line, text_range ending)
+{
+    if (!line.fits()) {
+        DAK_LOG("src str len exceeds dest str len %d\n", 200);
+        return fail();
+    }
+    if (append_sdp_text(context, line.text()) && append_sdp_text(context, ending))
+        return 1;
+    DAK_LOG(" Unable to fill SDP buffer \n");
+    return fail();
+}
+
+int write_attribute_line(sdp_lib_context *context, const line_builder &line)
+{
+    return write_attribute_line(context, line, "\r\n");
+}
+
+int has_write_arguments(const sdp_lib_context *context, const media_description *description)
+{
+    if (context != nullptr && description != nullptr)
+        return 1;
+    DAK_LOG(" Invalid params \n");
+    return 0;
+}
+
+int has_read_arguments(const media_description *description, const char *line_start, const char *line_end)
+{
+    if (description != nullptr && line_start != nullptr && line_end != nullptr)
+        return 1;
+    DAK_LOG("NULL Pararms sent \n");
+    return 0;
+}
+
+bool is_message_session(const media_description &description)
+{
+    return field_text(description.transport_profile).equals("TCP/MSRP");
+}
+
+int read_attribute_value(const char *line_start, const char *line_end, char (&value)[200])
+{
+    char name[200];
+    return get_type_and_value(line_start, line_end, name, value, nullptr, ":", "\r") == 2 ? 1 : fail();
+}
+
+int skip_for_profile(const media_description &description)
+{
+    // Message-session lines share the feedback reader's text; log filters in the field match on it.
+    DAK_LOG("RTCP fb not supported for this profile %s \n", description.transport_profile);
+    return 1;
+}
+
+void report_missing_description() { DAK_LOG(" invalid input argumet \n"); }
+
+} // namespace dak

@@ -1,0 +1,53 @@
+// What the writers and readers of the attribute families share.
+#ifndef DAKSDP_ATTR_ATTRIBUTE_LINE_HPP
+#define DAKSDP_ATTR_ATTRIBUTE_LINE_HPP
+
+#include "sdp/document_record.h"
+#include "sdp/media_description_record.h"
+#include "util/bounded_text.hpp"
+
+namespace dak {
+
+// Writes a line and its CR LF; reports a line of 200 characters or more and a full text buffer.
+int write_attribute_line(sdp_lib_context *context, const line_builder &line);
+
+// The same for a line whose ending belongs to a piece of its own.
+int write_attribute_line(sdp_lib_context *context, const line_builder &line, text_range ending);
+
+// Checks the arguments of a writer, with its log line.
+int has_write_arguments(const sdp_lib_context *context, const media_description *description);
+
+// Checks the arguments of a reader, with its log line.
+int has_read_arguments(const media_description *description, const char *line_start, const char *line_end);
+
+bool is_message_session(const media_description &description);
+
+// Reads the value behind the colon of an attribute, up to the end of the line; a missing value is reported.
+int read_attribute_value(const char *line_start, const char *line_end, char (&value)[200]);
+
+// Logs that a line was skipped because of its section's profile.
+int skip_for_profile(const media_description &description);
+
+// The frame of a reader of message-session lines: checks its arguments, skips other profiles, and hands the
+// value over.
+template <typename Store>
+int read_message_line(media_description *description, const char *line_start, const char *line_end,
+                      Store store)
+{
+    if (!has_read_arguments(description, line_start, line_end))
+        return 0;
+    if (!is_message_session(*description))
+        return skip_for_profile(*description);
+    char value[200];
+    if (!read_attribute_value(line_start, line_end, value))
+        return 0;
+    store(*description, text_range(value));
+    return 1;
+}
+
+// The getters' answer to a null description.
+void report_missing_description();
+
+} // namespace dak
+
+#endif

@@ -1,0 +1,178 @@
+#include "sdp/attribute_lines.h"
+
+#include "sdp/document.hpp"
+#include "sdp/line_match.h"
+#include "sdp/text_buffer.hpp"
+#include "sdp/value_list.hpp"
+#include "util/bounded_text.hpp"
+#include "util/report.hpp"
+#include "util/token.h"
+#include "util/trim.h"
+
+using namespace dak;
+
+namespace {
+
+constexpr size_t value_size = 200;
+
+// Formats "name:value", or "name" without a value, as far as it fits.
+bool format_attribute(char (&text)[200], text_range name, const char *value)
+{
+    bool fits = copy_text(text, name);
+    if (value == nullptr || !fits)
+        return fits;
+    const size_t used = name.length();
+    fits = copy_text(text + used, sizeof text - used, ":");
+    return fits && copy_text(text + used + 1, sizeof text - used - 1, value);
+}
+
+// Fills `value` with the first word behind the colon; leaves it alone when there is none.
+void read_first_word(const char *text, char *value)
+{
+    char name[200];
+    char word[200];
+    if (get_type_and_value(text, text + strlen(text), name, word, nullptr, ":", nullptr) == 2)
+        copy_text(value, value_size, word);
+}
+
+int count_matches(const session_value *head, const char *name)
+{
+    uint8_t count = 0;
+    for (const session_value *node = head; node != nullptr; node = node->next)
+        count = static_cast<uint8_t>(count + find_tag(name, node->text));
+    return count;
+}
+
+bool first_attribute_matches(const sdp_info_container &document, const char *name)
+{
+    return document.value_present[attribute_slot] == 1 && find_tag(name, document.values[attribute_slot]);
+}
+
+} // namespace
+
+int set_media_description_attribute(media_description *description, const char *name, const char *value)
+{
+    if (description == nullptr || name == nullptr)
+        return fail();
+    session_value *node = append_value(description->attributes, description->attributes_tail);
+    if (node == nullptr)
+        return 0;
+    if (!format_attribute(node->text, name, value)) {
+        DAK_LOG("len of src str to be printed exceeded dst str len%d \n",
+                static_cast<int>(sizeof node->text));
+        return fail();
+    }
+    dak_remove_both_space(node->text);
+    return 1;
+}
+
+int get_media_description_attribute(const media_description *description, const char *name, char *destination)
+{
+    if (description == nullptr || name == nullptr || destination == nullptr)
+        return fail();
+    for (const session_value *node = description->attributes; node != nullptr; node = node->next) {
+        if (find_type_return_value(node->text, name, ":", destination))
+            return 1;
+    }
+    return 0;
+}
+
+int dak_encode_media_attribute(sdp_lib_context *context, media_description *description)
+{
+    if (context == nullptr || description == nullptr)
+        return fail();
+    for (const session_value *node = description->attributes; node != nullptr; node = node->next) {
+        line_builder line;
+        line.add("a=").add(node->text).add("\r\n");
+        if (!line.fits()) {
+            DAK_LOG("len of str printed exceeded dst str len%d \n", 200);
+            return fail();
+        }
+        if (!append_sdp_text(context, line.text()))
+            return fail();
+    }
+    return 1;
+}
+
+int parse_sdp_attribute(media_description *description, const char *line_start, const char *line_end)
+{
+    if (description == nullptr || line_start == nullptr || line_end == nullptr)
+        return fail();
+    char name[200];
+    char value[200];
+    const int parts = line_end - line_start < 2
+                          ? 0
+                          : get_type_and_value(line_start + 2, line_end, name, value, nullptr, ":", "\r");
+    if (parts == 0) {
+        DAK_LOG("parse sdp a=, no values parsed ");
+        return 0;
+    }
+    if (set_media_description_attribute(description, name, parts == 2 ? value : nullptr))
+        return 1;
+    DAK_LOG("parse sdp a= ");
+    return 0;
+}
+
+int dak_sdp_get_number_of_attribute_values(const session_value *head, const char *name)
+{
+    return head != nullptr && name != nullptr ? count_matches(head, name) : fail();
+}
+
+void dak_sdp_get_attribute_value_by_index(const session_value *head, const char *name, int index, char *value)
+{
+    if (head == nullptr || name == nullptr || value == nullptr) {
+        dak_assert_failed();
+        return;
+    }
+    uint8_t match = 0;
+    for (const session_value *node = head; node != nullptr; node = node->next) {
+        if (find_tag(name, node->text) && match++ == index) {
+            read_first_word(node->text, value);
+            return;
+        }
+    }
+}
+
+int dak_sdp_get_number_of_session_attribute_values(sdp_lib_context *context, int selector, const char *name)
+{
+    const sdp_info_container *document = selected_document(context, selector);
+    if (document == nullptr)
+        return 0;
+    if (name == nullptr)
+        return fail();
+    const int further = dak_sdp_get_number_of_attribute_values(document->extra_values[attribute_slot], name);
+    return static_cast<uint8_t>(further + first_attribute_matches(*document, name));
+}
+
+void dak_sdp_get_session_attribute_value_by_index(sdp_lib_context *context, int selector, const char *name,
+                                                  int index, char *value)
+{
+    const sdp_info_container *document = selected_document(context, selector);
+    if (document == nullptr)
+        return;
+    if (name == nullptr || value == nullptr) {
+        dak_assert_failed();
+        return;
+    }
+    const bool has_first = first_attribute_matches(*document, name);
+    if (has_first && index == 0)
+        read_first_word(document->values[attribute_slot], value);
+    else
+        dak_sdp_get_attribute_value_by_index(document->extra_values[attribute_slot], name, index - has_first,
+                                             value);
+}
+
+int dak_sdp_get_number_of_media_attribute_values(const media_description *description, const char *name)
+{
+    return description != nullptr ? dak_sdp_get_number_of_attribute_values(description->attributes, name)
+                                  : fail();
+}
+
+void dak_sdp_get_media_attribute_value_by_index(const media_description *description, const char *name,
+                                                int index, char *value)
+{
+    if (description == nullptr)
+        dak_assert_failed();
+    else
+        dak_sdp_get_attribute_value_by_index(description->attributes, name, index, value);
+}

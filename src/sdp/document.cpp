@@ -1,0 +1,124 @@
+#include "sdp/document.h"
+
+#include "sdp/document.hpp"
+#include "sdp/media_description.h"
+#include "sdp/value_list.hpp"
+#include "util/bounded_text.hpp"
+#include "util/report.hpp"
+
+using namespace dak;
+
+namespace {
+
+// The order of these tags is the order in which session lines are written.
+constexpr const char *session_tags[SDP_SESSION_SLOTS] = {
+    "v=", "o=", "s=", "i=", "u=", "e=", "p=", "c=", "b=", "t=", "r=", "z=", "k=", "a="};
+
+} // namespace
+
+sdp_info_container *dak::selected_document(const sdp_lib_context *context, int selector)
+{
+    sdp_info_container *document = nullptr;
+    if (context != nullptr && selector == SDP_ENCODER_DOCUMENT)
+        document = context->encoder_document;
+    if (context != nullptr && selector == SDP_PARSER_DOCUMENT)
+        document = context->parser_document;
+    return document != nullptr ? document : fail_null();
+}
+
+int dak::find_slot(const sdp_info_container &document, text_range line)
+{
+    for (int slot = 0; slot < get_total_session_number_tag(); slot++) {
+        if (line.begins_with(text_range(document.type_tags[slot], size_t{2})))
+            return slot;
+    }
+    return no_slot;
+}
+
+int get_total_session_number_tag(void) { return SDP_SESSION_SLOTS; }
+
+int init_sdp_session_info(sdp_info_container *document)
+{
+    if (document == nullptr)
+        return fail();
+    for (int slot = 0; slot < SDP_SESSION_SLOTS; slot++) {
+        if (!copy_constant(document->type_tags[slot], session_tags[slot]))
+            return 0;
+        document->values[slot][0] = '\0';
+        document->value_present[slot] = 0;
+        document->extra_values[slot] = nullptr;
+        document->extra_tail[slot] = nullptr;
+    }
+    return 1;
+}
+
+int clean_sdp_info_container(sdp_info_container *document)
+{
+    if (document == nullptr)
+        return fail();
+    for (int slot = 0; slot < SDP_SESSION_SLOTS; slot++)
+        free_values(document->extra_values[slot], document->extra_tail[slot]);
+    int cleaned = 0;
+    for (media_description *&description : document->media_descriptions) {
+        cleaned = description != nullptr ? clean_media_description(description) : 0;
+        description = nullptr;
+    }
+    return cleaned;
+}
+
+int add_media_description(sdp_info_container *document, media_description *description)
+{
+    if (document == nullptr || description == nullptr)
+        return fail();
+    media_description **free_place = nullptr;
+    for (media_description *&place : document->media_descriptions) {
+        if (place == description)
+            return fail(); // owned already: a second place would free it twice
+        if (place == nullptr && free_place == nullptr)
+            free_place = &place;
+    }
+    if (free_place == nullptr)
+        return fail();
+    *free_place = description;
+    return 1;
+}
+
+int add_media_description_to_sdp_container(sdp_info_container *document, media_description *description)
+{
+    return add_media_description(document, description);
+}
+
+int add_media_description_to_sdp_encoder(sdp_lib_context *context, media_description *description)
+{
+    sdp_info_container *document = selected_document(context, SDP_ENCODER_DOCUMENT);
+    return document != nullptr ? add_media_description(document, description) : 0;
+}
+
+int get_number_of_media_description_by_sdp_info_type(const sdp_info_container *document)
+{
+    if (document == nullptr)
+        return fail();
+    int count = 0;
+    for (const media_description *description : document->media_descriptions)
+        count += description != nullptr;
+    return count;
+}
+
+int get_number_of_media_description(sdp_lib_context *context, int selector)
+{
+    const sdp_info_container *document = selected_document(context, selector);
+    return document != nullptr ? get_number_of_media_description_by_sdp_info_type(document) : 0;
+}
+
+media_description *get_media_description_by_index_and_sdp_type(sdp_info_container *document, uint32_t index)
+{
+    if (document == nullptr || index >= SDP_MAX_MEDIA_DESCRIPTIONS)
+        return fail_null();
+    return document->media_descriptions[index];
+}
+
+media_description *get_media_description_by_index(sdp_lib_context *context, int selector, uint32_t index)
+{
+    sdp_info_container *document = selected_document(context, selector);
+    return document != nullptr ? get_media_description_by_index_and_sdp_type(document, index) : nullptr;
+}

@@ -1,0 +1,162 @@
+#include "sdp/media_description.h"
+
+#include "sdp/media_description.hpp"
+#include "sdp/value_list.hpp"
+#include "util/bounded_text.hpp"
+#include "util/report.hpp"
+#include "util/text.h"
+
+using namespace dak;
+
+namespace {
+
+constexpr const char *value_tags[SDP_MEDIA_VALUE_SLOTS] = {"i=", "c=", "b=", "b=", "b=", "b=", "k="};
+
+bool are_payloads_valid(const uint32_t *payload_numbers, int payload_count)
+{
+    return payload_count >= 0 && payload_count <= SDP_MAX_PAYLOADS &&
+           (payload_count == 0 || payload_numbers != nullptr);
+}
+
+// Fills a zeroed section; what has to be released on failure is the caller's.
+int fill(media_description &description, text_range media_type, text_range transport_profile,
+         const uint32_t *payload_numbers, int payload_count)
+{
+    if (!copy_text(description.media_type, media_type) || !allocate_codecs(description, payload_count))
+        return 0;
+    if (!copy_text(description.transport_profile, transport_profile)) {
+        DAK_LOG("Src str length exceeded dst str %lu \n",
+                static_cast<unsigned long>(sizeof description.transport_profile));
+        return 0;
+    }
+    description.number_of_payload = payload_count;
+    for (int i = 0; i < payload_count; i++)
+        description.payload_numbers[i] = static_cast<int32_t>(payload_numbers[i]);
+    for (int slot = 0; slot < SDP_MEDIA_VALUE_SLOTS; slot++) {
+        if (!copy_constant(description.media_value_tags[slot], value_tags[slot]))
+            return 0;
+    }
+    return 1;
+}
+
+} // namespace
+
+int dak::allocate_codecs(media_description &description, int count)
+{
+    if (count == 0)
+        return 1;
+    const size_t size = static_cast<size_t>(count) * sizeof(media_codec);
+    auto *codecs = static_cast<media_codec *>(dak_malloc(size));
+    if (codecs == nullptr)
+        return 0;
+    memset(codecs, 0, size);
+    if (description.codecs != nullptr)
+        memcpy(codecs, description.codecs,
+               static_cast<size_t>(description.codec_capacity) * sizeof(media_codec));
+    dak_free(description.codecs);
+    description.codecs = codecs;
+    description.codec_capacity = count;
+    return 1;
+}
+
+media_description *init_media_description(const char *media_type, uint32_t port, uint32_t number_of_ports,
+                                          const char *transport_profile, const uint32_t *payload_numbers,
+                                          int payload_count)
+{
+    if (media_type == nullptr || transport_profile == nullptr ||
+        !are_payloads_valid(payload_numbers, payload_count))
+        return fail_null();
+    auto *description = static_cast<media_description *>(dak_malloc(sizeof(media_description)));
+    if (description == nullptr)
+        return fail_null();
+    memset(description, 0, sizeof *description);
+    if (!fill(*description, media_type, transport_profile, payload_numbers, payload_count)) {
+        clean_media_description(description);
+        return fail_null();
+    }
+    description->media_port = port;
+    description->number_of_media_port = number_of_ports;
+    return description;
+}
+
+media_description *init_empty_media_description(void)
+{
+    return init_media_description("", 0, 0, "", nullptr, 0);
+}
+
+int clean_media_description(media_description *description)
+{
+    if (description == nullptr)
+        return fail();
+    free_values(description->attributes, description->attributes_tail);
+    dak_free(description->codecs);
+    dak_free(description);
+    return 1;
+}
+
+int set_media_port(media_description *description, uint32_t port)
+{
+    if (description == nullptr)
+        return fail();
+    description->media_port = port;
+    return 1;
+}
+
+int set_number_of_media_port(media_description *description, uint32_t number)
+{
+    if (description == nullptr)
+        return fail();
+    description->number_of_media_port = number;
+    return 1;
+}
+
+uint32_t get_media_port(const media_description *description)
+{
+    return description != nullptr ? description->media_port : static_cast<uint32_t>(fail());
+}
+
+uint32_t get_number_of_media_port(const media_description *description)
+{
+    return description != nullptr ? description->number_of_media_port : static_cast<uint32_t>(fail());
+}
+
+int set_media_type(media_description *description, const char *text, uint32_t length)
+{
+    return description != nullptr ? create_string(description->media_type, text, length) : fail();
+}
+
+int set_transport_profile(media_description *description, const char *text, uint32_t length)
+{
+    return description != nullptr ? create_string(description->transport_profile, text, length) : fail();
+}
+
+const char *get_media_type(const media_description *description)
+{
+    return description != nullptr ? description->media_type : fail_null();
+}
+
+const char *get_transport_profile(const media_description *description)
+{
+    return description != nullptr ? description->transport_profile : fail_null();
+}
+
+int set_media_format(media_description *description, const char *text, uint32_t length)
+{
+    if (description == nullptr || text == nullptr)
+        return fail();
+    constexpr size_t size = sizeof description->media_format;
+    if (length >= size) {
+        DAK_LOG("Src str length %d exceeded dst str %d \n", static_cast<int>(length), static_cast<int>(size));
+        return fail();
+    }
+    copy_text(description->media_format, {text, strnlen(text, length)});
+    return 1;
+}
+
+int dak_sdp_get_media_format(const media_description *description, char *destination)
+{
+    if (description == nullptr || destination == nullptr)
+        return fail();
+    copy_text(destination, sizeof description->media_format, field_text(description->media_format));
+    return 1;
+}

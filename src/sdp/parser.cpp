@@ -1,0 +1,89 @@
+#include "sdp/parser.h"
+
+#include "sdp/document.h"
+#include "sdp/document.hpp"
+#include "sdp/line_match.h"
+#include "sdp/media_description.h"
+#include "sdp/session_values.h"
+#include "util/line_scan.h"
+#include "util/report.hpp"
+
+#include <string.h>
+
+using namespace dak;
+
+namespace {
+
+int parse_text(sdp_lib_context *context, const char *text, size_t length)
+{
+    const char *position = text;
+    const char *end = text + length;
+    if (!parse_session_info(context, &position, end))
+        return fail();
+    return position < end ? parse_media_description(context, position, end) : 1;
+}
+
+// Reads one section into the document; what it allocated is released on failure.
+int parse_section(sdp_info_container *document, const char *line_start, const char **position,
+                  const char *end)
+{
+    media_description *description = init_empty_media_description();
+    if (description == nullptr)
+        return fail();
+    if (process_media_description(line_start, *position, description) &&
+        process_media_attribute(position, end, description) &&
+        add_media_description_to_sdp_container(document, description))
+        return 1;
+    clean_media_description(description);
+    return fail();
+}
+
+} // namespace
+
+int sdp_parse(sdp_lib_context *context, const char *text, uint32_t length)
+{
+    if (context == nullptr || text == nullptr)
+        return fail();
+    const size_t text_length = strnlen(text, length);
+    auto *copy = static_cast<char *>(dak_malloc(text_length + 1));
+    if (copy == nullptr)
+        return fail();
+    memcpy(copy, text, text_length);
+    copy[text_length] = '\0';
+    const int result = parse_text(context, copy, text_length);
+    dak_free(copy);
+    return result;
+}
+
+int parse_session_info(sdp_lib_context *context, const char **position, const char *end)
+{
+    sdp_info_container *document = selected_document(context, SDP_PARSER_DOCUMENT);
+    if (document == nullptr || position == nullptr || *position == nullptr || *position >= end)
+        return fail();
+    const char *line_start = nullptr;
+    const char *line_end = nullptr;
+    while (get_next_line(*position, end, &line_start, &line_end)) {
+        if (find_media_description(line_start, line_end))
+            return 1;
+        if (!parse_session_value(document, line_start, line_end))
+            return fail();
+        *position = line_end;
+    }
+    return 1;
+}
+
+int parse_media_description(sdp_lib_context *context, const char *position, const char *end)
+{
+    sdp_info_container *document = selected_document(context, SDP_PARSER_DOCUMENT);
+    if (document == nullptr || position == nullptr || end == nullptr)
+        return fail();
+    const char *line_start = nullptr;
+    const char *line_end = nullptr;
+    while (get_next_line(position, end, &line_start, &line_end)) {
+        position = line_end;
+        if (find_media_description(line_start, line_end) &&
+            !parse_section(document, line_start, &position, end))
+            return 0;
+    }
+    return 1;
+}

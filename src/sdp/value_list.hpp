@@ -1,0 +1,17 @@
+// Lists of session_value nodes: further session lines, and the generic attributes of a media section.
+#ifndef DAKSDP_SDP_VALUE_LIST_HPP
+#define DAKSDP_SDP_VALUE_LIST_HPP
+
+#include "sdp/document_record.h"
+
+namespace dak {
+
+// Links an empty node behind the last; null, reported, when memory runs out.
+session_value *append_value(session_value *&head, session_value *&tail);
+
+// Frees every node and empties the list.
+void free_values(session_value *&head, session_value *&tail);
+
+} // namespace dak
+
+#endif

@@ -1,0 +1,78 @@
+// A piece of text that is not terminated: [first, last).
+#ifndef DAKSDP_UTIL_TEXT_RANGE_HPP
+#define DAKSDP_UTIL_TEXT_RANGE_HPP
+
+#include "util/ascii.hpp"
+
+#include <stddef.h>
+#include <string.h>
+
+namespace dak {
+
+struct text_range {
+    const char *first = "";
+    const char *last = first;
+
+    text_range() = default;
+    text_range(const char *begin, const char *end) : first(begin), last(end < begin ? begin : end) {}
+    text_range(const char *begin, size_t length) : first(begin), last(begin + length) {}
+    text_range(const char *terminated) : first(terminated), last(terminated + strlen(terminated)) {}
+
+    size_t length() const { return static_cast<size_t>(last - first); }
+    bool empty() const { return first == last; }
+    bool begins_with(text_range prefix) const
+    {
+        return prefix.length() <= length() && memcmp(first, prefix.first, prefix.length()) == 0;
+    }
+    bool equals(text_range other) const { return other.length() == length() && begins_with(other); }
+
+    // The first place of a character, or null.
+    const char *find(char c) const
+    {
+        return empty() ? nullptr : static_cast<const char *>(memchr(first, c, length()));
+    }
+
+    // The text in front of the first `c`, which is taken off together with the `c`. Without a `c` all of it.
+    text_range take_until(char c)
+    {
+        const char *found = find(c);
+        const text_range taken(first, found != nullptr ? found : last);
+        first = found != nullptr ? found + 1 : last;
+        return taken;
+    }
+
+    void skip_blanks()
+    {
+        while (first != last && is_blank(*first))
+            first++;
+    }
+
+    text_range trimmed() const
+    {
+        text_range inner = *this;
+        while (!inner.empty() && is_white(*inner.first))
+            inner.first++;
+        while (!inner.empty() && is_white(inner.last[-1]))
+            inner.last--;
+        return inner;
+    }
+
+    // The next word between spaces and line terminators, taken off. A NUL ends the text. Empty at its end.
+    text_range take_word()
+    {
+        const auto separates = [](char c) { return c == ' ' || is_line_term(c); };
+        while (first != last && separates(*first))
+            first++;
+        const char *start = first;
+        while (first != last && *first != '\0' && !separates(*first))
+            first++;
+        return {start, first};
+    }
+};
+
+// The text of a fixed field, terminated or not.
+template <size_t N> text_range field_text(const char (&field)[N]) { return {field, strnlen(field, N)}; }
+
+} // namespace dak
+
+#endif
