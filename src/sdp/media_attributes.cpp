@@ -21,47 +21,34 @@ using namespace dak;
 
 namespace {
 
-void log_accept_failure() { DAK_LOG("parse accept-type err "); }
-void log_transfer_id_failure() { DAK_LOG("parse file transfer id err "); }
-void log_disposition_failure() { DAK_LOG("parse file disposition err "); }
-void log_date_failure() { DAK_LOG("parse file date err "); }
-void log_icon_failure() { DAK_LOG("parse file icon err "); }
-void log_range_failure() { DAK_LOG("parse file range err "); }
-void log_selector_failure() { DAK_LOG("parse file selector err "); }
-void log_fmtp_failure() { DAK_LOG("parse fmtp err "); }
-void log_precondition_failure()
-{
-    DAK_LOG("process_media_attribute :                              parse pcd error \n");
-}
-void log_feedback_failure()
-{
-    DAK_LOG("process_media_attribute :                              parse rtcp-fb error \n");
-}
-
 struct attribute_reader {
     const char *tag;
     int (*read)(media_description *description, const char *line_start, const char *line_end);
-    void (*log_failure)();
+    const char *failure;
 };
 
 // The first tag that begins a line decides. Some failures are logged under another attribute's name; log
 // filters match on these texts.
 constexpr attribute_reader attribute_readers[] = {
-    {"a=accept-types", dak_sdp_parse_a_equal_accept_type_line, log_accept_failure},
-    {"a=accept-wrapped-types", dak_sdp_parse_a_equal_accept_wrapped_type_line, log_accept_failure},
-    {"a=path", dak_sdp_parse_a_equal_path_line, log_accept_failure},
-    {"a=file-transfer-id", dak_sdp_parse_a_equal_file_transfer_id_line, log_transfer_id_failure},
-    {"a=file-disposition", dak_sdp_parse_a_equal_file_disposition_line, log_disposition_failure},
-    {"a=file-date", dak_sdp_parse_a_equal_file_date_line, log_date_failure},
-    {"a=file-icon", dak_sdp_parse_a_equal_file_icon_line, log_icon_failure},
-    {"a=file-range", dak_sdp_parse_a_equal_file_range_line, log_range_failure},
-    {"a=file-selector", dak_sdp_parse_a_equal_file_selector_line, log_selector_failure},
-    {"a=max-size", dak_sdp_parse_a_equal_max_size_line, log_selector_failure},
-    {"a=fmtp", parse_a_equal_fmtp_line, log_fmtp_failure},
-    {"a=curr", parse_a_equal_pcd_line, log_precondition_failure},
-    {"a=des", parse_a_equal_pcd_line, log_precondition_failure},
-    {"a=conf", parse_a_equal_pcd_line, log_precondition_failure},
-    {"a=rtcp-fb", dak_sdp_parse_a_equal_rtcp_fb_line, log_feedback_failure},
+    {"a=accept-types", dak_sdp_parse_a_equal_accept_type_line, "parse accept-type err "},
+    {"a=accept-wrapped-types", dak_sdp_parse_a_equal_accept_wrapped_type_line, "parse accept-type err "},
+    {"a=path", dak_sdp_parse_a_equal_path_line, "parse accept-type err "},
+    {"a=file-transfer-id", dak_sdp_parse_a_equal_file_transfer_id_line, "parse file transfer id err "},
+    {"a=file-disposition", dak_sdp_parse_a_equal_file_disposition_line, "parse file disposition err "},
+    {"a=file-date", dak_sdp_parse_a_equal_file_date_line, "parse file date err "},
+    {"a=file-icon", dak_sdp_parse_a_equal_file_icon_line, "parse file icon err "},
+    {"a=file-range", dak_sdp_parse_a_equal_file_range_line, "parse file range err "},
+    {"a=file-selector", dak_sdp_parse_a_equal_file_selector_line, "parse file selector err "},
+    {"a=max-size", dak_sdp_parse_a_equal_max_size_line, "parse file selector err "},
+    {"a=fmtp", parse_a_equal_fmtp_line, "parse fmtp err "},
+    {"a=curr", parse_a_equal_pcd_line,
+     "process_media_attribute :                              parse pcd error \n"},
+    {"a=des", parse_a_equal_pcd_line,
+     "process_media_attribute :                              parse pcd error \n"},
+    {"a=conf", parse_a_equal_pcd_line,
+     "process_media_attribute :                              parse pcd error \n"},
+    {"a=rtcp-fb", dak_sdp_parse_a_equal_rtcp_fb_line,
+     "process_media_attribute :                              parse rtcp-fb error \n"},
 };
 
 // Finds the next line of the section; false at the next m= line and at the end of the text.
@@ -122,7 +109,7 @@ void read_structured(media_description *description, const char *line_start, con
         if (!line.begins_with(reader.tag))
             continue;
         if (!reader.read(description, line_start, line_end))
-            reader.log_failure();
+            log_text(reader.failure);
         return;
     }
 }

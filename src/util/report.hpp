@@ -18,6 +18,9 @@ inline int fail()
     return 0;
 }
 
+// Logs a text of the library's own that holds no conversion, such as one from a table.
+void log_text(const char *text);
+
 inline decltype(nullptr) fail_null()
 {
     dak_assert_failed();
