@@ -1,0 +1,147 @@
+#include "oa/codec/tel_event.h"
+
+#include "codec/media_value.h"
+#include "oa/codec/fmtp_setter.hpp"
+#include "oa/result_code.h"
+#include "util/bounded_text.hpp"
+#include "util/number.hpp"
+#include "util/report.hpp"
+
+using namespace dak;
+
+namespace {
+
+constexpr size_t list_size = 256;
+constexpr const char *delimiters = ",;";
+using event_list = built_text<list_size>;
+
+// A single event is written as the 32-bit word that both of its halves make.
+void add_single(event_list &list, const sdp_tel_event_entry &entry)
+{
+    list.add_number(entry.first | static_cast<uint32_t>(entry.last) << 16).add(',');
+}
+
+void add_range(event_list &list, const sdp_tel_event_entry &entry)
+{
+    list.add_number(entry.first).add('-').add_number(entry.last).add(',');
+}
+
+uint32_t add_entry(event_list &list, const sdp_tel_event_entry &entry)
+{
+    if (entry.kind == SDP_TEL_EVENT_SINGLE) {
+        add_single(list, entry);
+    } else if (entry.kind == SDP_TEL_EVENT_RANGE) {
+        add_range(list, entry);
+    } else {
+        DAK_LOG("dak_app_sdp_encode_dtmf_tel_event_tag :                               Invalid event range: %d ",
+                static_cast<int>(entry.kind));
+        return SDP_OA_INVALID_CONTENT;
+    }
+    return list.fits() ? SDP_OA_SUCCESS : fail_as_truncated(list_size);
+}
+
+// Reads "first-last"; false for a part that is missing or no number.
+bool read_range(text_range token, sdp_tel_event_entry &entry)
+{
+    constexpr const char *hyphen = "-";
+    sdp_tel_event_entry range = {SDP_TEL_EVENT_RANGE, 0, 0};
+    if (!scan_unsigned(token.take_token(hyphen), range.first) || !scan_unsigned(token.take_token(hyphen), range.last))
+        return false;
+    entry = range;
+    return true;
+}
+
+// Reads a token; false for one that is no event or range, with the entry left alone.
+bool read_entry(text_range token, sdp_tel_event_entry &entry)
+{
+    if (token.find('-') != nullptr)
+        return read_range(token, entry);
+    uint16_t event = 0;
+    if (!scan_unsigned(token, event))
+        return false;
+    entry = {SDP_TEL_EVENT_SINGLE, event, 0};
+    return true;
+}
+
+} // namespace
+
+uint32_t dak_app_sdp_encode_tel_event(media_description *md, uint16_t codec_index, void *block)
+{
+    if (md == nullptr || block == nullptr) {
+        DAK_LOG("dak_app_sdp_encode_tel_event :                                Incorrect params ");
+        return SDP_OA_BAD_PARAMETERS;
+    }
+    const auto &tel_event = *static_cast<const sdp_tel_event_params *>(block);
+    if (tel_event.fmtp_present != 1 || tel_event.events_present == 0)
+        return SDP_OA_SUCCESS;
+    char list[list_size];
+    uint16_t count = 0;
+    const uint32_t result = dak_app_sdp_encode_dtmf_tel_event_tag(&tel_event, list, &count);
+    if (result != SDP_OA_SUCCESS || count == 0)
+        return result;
+    return dak_app_sdp_set_string_inmline(md, codec_index, list, "events");
+}
+
+uint32_t dak_app_sdp_decode_tel_event(media_description *md, uint16_t codec_index, void *block)
+{
+    if (md == nullptr || block == nullptr) {
+        DAK_LOG("dak_app_sdp_decode_tel_event:                                No fmtp/parsed_media\n");
+        return SDP_OA_BAD_PARAMETERS;
+    }
+    auto &tel_event = *static_cast<sdp_tel_event_params *>(block);
+    tel_event = {};
+    tel_event.fmtp_present = 1;
+    tel_event.tel_event_valid = 1;
+    const char *text = get_media_value(md, codec_index, "events");
+    if (text == nullptr)
+        return SDP_OA_SUCCESS;
+    tel_event.events_present = 1;
+    const uint32_t result = dak_app_oa_get_dtmf_tel_event(text, tel_event.events);
+    if (result != SDP_OA_SUCCESS)
+        DAK_LOG("dak_app_sdp_decode_tel_event:                                Failed in DTMF event\n");
+    return result;
+}
+
+uint32_t dak_app_sdp_encode_dtmf_tel_event_tag(const sdp_tel_event_params *block, char *out, uint16_t *count)
+{
+    if (block == nullptr || out == nullptr) {
+        DAK_LOG("dak_app_sdp_encode_dtmf_tel_event_tag :                                Bad Arguments( ");
+        return SDP_OA_BAD_PARAMETERS;
+    }
+    event_list list;
+    uint16_t written = 0;
+    uint32_t result = SDP_OA_SUCCESS;
+    while (written < SDP_TEL_EVENT_ENTRIES && block->events[written].kind != SDP_TEL_EVENT_END) {
+        result = add_entry(list, block->events[written]);
+        if (result != SDP_OA_SUCCESS)
+            break;
+        written++;
+    }
+    if (result == SDP_OA_SUCCESS)
+        list.drop_last();
+    copy_text(out, list_size, list.text());
+    if (count != nullptr)
+        *count = written;
+    return result;
+}
+
+uint32_t dak_app_oa_get_dtmf_tel_event(const char *text, sdp_tel_event_entry *events)
+{
+    if (text == nullptr || events == nullptr)
+        return SDP_OA_INVALID_CONTENT;
+    text_range rest(text);
+    if (rest.length() > list_size) {
+        DAK_LOG("src str len exceeded dst str len%d \n", static_cast<int>(list_size + 1));
+        return SDP_OA_TOO_LONG;
+    }
+    for (int i = 0; i < SDP_TEL_EVENT_ENTRIES; i++) {
+        const text_range token = rest.take_token(delimiters);
+        if (token.empty() || !read_entry(token, events[i]))
+            return SDP_OA_SUCCESS;
+        if (events[i].kind == SDP_TEL_EVENT_RANGE && events[i].first > events[i].last) {
+            DAK_LOG("dak_app_oa_get_dtmf_tel_event:Invalid DTMF..                                               events\n");
+            return SDP_OA_INVALID_CONTENT;
+        }
+    }
+    return SDP_OA_SUCCESS;
+}
