@@ -57,8 +57,8 @@ struct text_range {
         return inner;
     }
 
-    // The next token between delimiters, taken off; runs of delimiters count as one. A NUL ends the text.
-    // Empty at its end.
+    // The next token between delimiters, taken off together with the one behind it; runs of delimiters count
+    // as one. A NUL ends the text. Empty at its end.
     text_range take_token(const char *delimiters)
     {
         const auto delimits = [delimiters](char c) { return c != '\0' && strchr(delimiters, c) != nullptr; };
@@ -67,7 +67,10 @@ struct text_range {
         const char *start = first;
         while (first != last && *first != '\0' && !delimits(*first))
             first++;
-        return {start, first};
+        const text_range token(start, first);
+        if (first != last && *first != '\0')
+            first++;
+        return token;
     }
 
     // The next word between spaces and line terminators.

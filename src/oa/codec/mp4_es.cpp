@@ -88,5 +88,7 @@ uint32_t dak_app_sdp_decode_mp4_es(media_description *md, uint16_t codec_index, 
     if (const char *profile = get_media_value(md, codec_index, "profile-level-id"); profile != nullptr)
         mp4.profile_level_id_present = scan_signed(profile, mp4.profile_level_id);
     const char *config = get_media_value(md, codec_index, "config");
-    return config != nullptr ? decode_config(config, mp4) : SDP_OA_SUCCESS;
+    if (config == nullptr)
+        return SDP_OA_SUCCESS;
+    return decode_config(config, mp4);
 }

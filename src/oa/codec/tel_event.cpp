@@ -37,7 +37,9 @@ uint32_t add_entry(event_list &list, const sdp_tel_event_entry &entry)
                 static_cast<int>(entry.kind));
         return SDP_OA_INVALID_CONTENT;
     }
-    return list.fits() ? SDP_OA_SUCCESS : fail_as_truncated(list_size);
+    if (list.fits())
+        return SDP_OA_SUCCESS;
+    return fail_as_truncated(list_size);
 }
 
 // Reads "first-last"; false for a part that is missing or no number.
@@ -139,6 +141,7 @@ uint32_t dak_app_oa_get_dtmf_tel_event(const char *text, sdp_tel_event_entry *ev
         if (token.empty() || !read_entry(token, events[i]))
             return SDP_OA_SUCCESS;
         if (events[i].kind == SDP_TEL_EVENT_RANGE && events[i].first > events[i].last) {
+            events[i].kind = SDP_TEL_EVENT_END;
             DAK_LOG("dak_app_oa_get_dtmf_tel_event:Invalid DTMF..                                               events\n");
             return SDP_OA_INVALID_CONTENT;
         }
