@@ -12,7 +12,7 @@ namespace dak {
 inline bool copy_text(char *destination, size_t size, text_range source)
 {
     const size_t kept = source.length() < size ? source.length() : size - 1;
-    memcpy(destination, source.first, kept);
+    memmove(destination, source.first, kept); // a caller may hand a field's own text back
     destination[kept] = '\0';
     return kept == source.length();
 }
@@ -25,22 +25,61 @@ template <size_t N> bool copy_text(char (&field)[N], text_range source)
 // Copies a name or tag of the library itself, with the report that stands for one that would not fit.
 int copy_constant(char (&field)[200], const char *source);
 
-// Builds one line of at most 199 characters.
-class line_builder {
+// The decimal digits of a number, for appending.
+class decimal {
 public:
-    line_builder &add(text_range piece);
-    line_builder &add(char c);
-    line_builder &add_number(uint32_t number);
-    line_builder &add_signed(int32_t number);
+    explicit decimal(uint64_t number) : decimal(number, false) {}
+    static decimal of_signed(int64_t number)
+    {
+        return number < 0 ? decimal(0 - static_cast<uint64_t>(number), true)
+                          : decimal(static_cast<uint64_t>(number));
+    }
+    text_range text() const { return {digits_ + start_, sizeof digits_ - start_}; }
+
+private:
+    decimal(uint64_t magnitude, bool negative);
+
+    size_t start_ = sizeof digits_;
+    char digits_[20]; // "-9223372036854775808"
+};
+
+// Builds a terminated text of fewer than `Size` characters. A piece that does not fit is left out with all
+// that follow it.
+template <size_t Size> class built_text {
+public:
+    built_text &add(text_range piece)
+    {
+        fits_ = fits_ && piece.length() < Size - length_;
+        if (fits_) {
+            copy_text(text_ + length_, Size - length_, piece);
+            length_ += piece.length();
+        }
+        return *this;
+    }
+    built_text &add(char c) { return add(text_range(&c, size_t{1})); }
+    built_text &add_number(uint64_t number) { return add(decimal(number).text()); }
+    built_text &add_signed(int64_t number) { return add(decimal::of_signed(number).text()); }
+
+    // Takes the last character off, if there is one.
+    void drop_last()
+    {
+        length_ -= length_ > 0;
+        text_[length_] = '\0';
+    }
 
     bool fits() const { return fits_; }
+    size_t length() const { return length_; }
+    const char *c_str() const { return text_; }
     text_range text() const { return {text_, length_}; }
 
 private:
     size_t length_ = 0;
     bool fits_ = true;
-    char text_[200];
+    char text_[Size] = "";
 };
+
+// One line, or one piece of it, on its way to the text buffer.
+using line_builder = built_text<200>;
 
 } // namespace dak
 

@@ -1,5 +1,6 @@
 #include "util/number.h"
 
+#include "util/bounded_text.hpp"
 #include "util/number.hpp"
 #include "util/report.hpp"
 
@@ -76,33 +77,44 @@ int dak_i64toa(int64_t value, char *destination, uint32_t size)
     if (destination == nullptr || size == 0)
         return 0;
     memset(destination, 0, size);
-    char digits[20]; // "-9223372036854775808"
-    size_t start = sizeof digits;
-    uint64_t magnitude = value < 0 ? 0 - static_cast<uint64_t>(value) : static_cast<uint64_t>(value);
-    do {
-        digits[--start] = static_cast<char>('0' + magnitude % 10);
-        magnitude /= 10;
-    } while (magnitude != 0);
-    if (value < 0)
-        digits[--start] = '-';
-    const size_t length = sizeof digits - start;
-    if (length >= size)
+    const decimal digits = decimal::of_signed(value);
+    if (digits.text().length() >= size)
         return 0;
-    memcpy(destination, digits + start, length);
+    copy_text(destination, size, digits.text());
     return 1;
 }
 
 int32_t dak::read_saturating(text_range text)
 {
+    const auto value = static_cast<int64_t>(scan_number(text, any_width, 10, true).bits);
+    if (value > INT32_MAX)
+        return INT32_MAX;
+    return value < INT32_MIN ? INT32_MIN : static_cast<int32_t>(value);
+}
+
+scanned_number dak::scan_number(text_range text, size_t width, uint32_t base, bool is_signed)
+{
     while (!text.empty() && (is_white(*text.first) || *text.first == '\v' || *text.first == '\f'))
         text.first++;
+    if (width < text.length())
+        text.last = text.first + width;
     const bool negative = !text.empty() && *text.first == '-';
     if (negative || (!text.empty() && *text.first == '+'))
         text.first++;
-    const int64_t limit = negative ? -static_cast<int64_t>(INT32_MIN) : INT32_MAX;
-    int64_t magnitude = 0;
-    for (; !text.empty() && is_digit(*text.first); text.first++)
-        magnitude = magnitude < limit ? magnitude * 10 + (*text.first - '0') : magnitude;
-    magnitude = magnitude < limit ? magnitude : limit;
-    return static_cast<int32_t>(negative ? -magnitude : magnitude);
+    const uint64_t limit = !is_signed ? UINT64_MAX : static_cast<uint64_t>(INT64_MAX) + (negative ? 1 : 0);
+    scanned_number number;
+    bool overflows = false;
+    for (; !text.empty(); text.first++) {
+        const uint32_t digit = digit_value(*text.first, base);
+        if (digit == base)
+            break;
+        number.is_read = true;
+        overflows = overflows || number.bits > (limit - digit) / base;
+        number.bits = number.bits * base + digit;
+    }
+    if (overflows)
+        number.bits = limit;
+    if (negative && (is_signed || !overflows))
+        number.bits = 0 - number.bits;
+    return number;
 }

@@ -12,6 +12,36 @@ namespace dak {
 // stop at the nearest bound, on every host alike.
 int32_t read_saturating(text_range text);
 
+// A number as scanned: whether there was one, and its low 64 bits.
+struct scanned_number {
+    bool is_read = false;
+    uint64_t bits = 0;
+};
+
+constexpr size_t any_width = SIZE_MAX;
+
+// Reads white space, an optional sign and digits of base 10 or 16 within `width` characters behind the white
+// space; what follows is ignored. Overflow stops at the bounds of 64 bits, so that the low bits kept from it
+// are the same where `long` has 32 bits and where it has 64.
+scanned_number scan_number(text_range text, size_t width, uint32_t base, bool is_signed);
+
+// Scans a decimal number into a field, which keeps its low bits; a field is left alone when there is none.
+template <typename Field> bool scan_signed(text_range text, Field &field)
+{
+    const scanned_number number = scan_number(text, any_width, 10, true);
+    if (number.is_read)
+        field = static_cast<Field>(number.bits);
+    return number.is_read;
+}
+
+template <typename Field> bool scan_unsigned(text_range text, Field &field)
+{
+    const scanned_number number = scan_number(text, any_width, 10, false);
+    if (number.is_read)
+        field = static_cast<Field>(number.bits);
+    return number.is_read;
+}
+
 } // namespace dak
 
 #endif

@@ -57,17 +57,24 @@ struct text_range {
         return inner;
     }
 
-    // The next word between spaces and line terminators, taken off. A NUL ends the text. Empty at its end.
-    text_range take_word()
+    // The next token between delimiters, taken off together with the one behind it; runs of delimiters count
+    // as one. A NUL ends the text. Empty at its end.
+    text_range take_token(const char *delimiters)
     {
-        const auto separates = [](char c) { return c == ' ' || is_line_term(c); };
-        while (first != last && separates(*first))
+        const auto delimits = [delimiters](char c) { return c != '\0' && strchr(delimiters, c) != nullptr; };
+        while (first != last && delimits(*first))
             first++;
         const char *start = first;
-        while (first != last && *first != '\0' && !separates(*first))
+        while (first != last && *first != '\0' && !delimits(*first))
             first++;
-        return {start, first};
+        const text_range token(start, first);
+        if (first != last && *first != '\0')
+            first++;
+        return token;
     }
+
+    // The next word between spaces and line terminators.
+    text_range take_word() { return take_token(" \r\n"); }
 };
 
 // The text of a fixed field, terminated or not.
