@@ -54,13 +54,18 @@ void store_range(sdp_file_range &range, text_range value)
         range.stop = read_saturating(value);
 }
 
-// Takes a text between quotes off `rest`, blanks and colons included; a word where no quote opens.
-text_range take_quoted(text_range &rest)
+text_range take_item(text_range &rest) { return rest.take_token(" \t"); }
+
+// Reads the text between quotes, blanks and colons included; a word without quotes is no name.
+void store_name(sdp_file_selector &selector, text_range &rest)
 {
-    if (!rest.begins_with("\""))
-        return rest.take_word();
+    rest.skip_blanks();
+    if (!rest.begins_with("\"")) {
+        take_item(rest);
+        return;
+    }
     rest.first++;
-    return rest.take_until('"');
+    copy_text(selector.name, rest.take_until('"'));
 }
 
 // A type other than the four image types leaves the selector without one.
@@ -86,28 +91,28 @@ void read_selector(sdp_file_selector &selector, text_range rest)
     for (rest.skip_blanks(); !rest.empty(); rest.skip_blanks()) {
         const text_range key = rest.take_until(':');
         if (key.equals("name"))
-            copy_text(selector.name, take_quoted(rest));
+            store_name(selector, rest);
         else if (key.equals("type"))
-            store_type(selector, rest.take_word());
+            store_type(selector, take_item(rest));
         else if (key.equals("size"))
-            selector.size = static_cast<uint32_t>(read_saturating(rest.take_word()));
+            selector.size = static_cast<uint32_t>(read_saturating(take_item(rest)));
         else if (key.equals("hash"))
-            store_hash(selector, rest.take_word());
+            store_hash(selector, take_item(rest));
         else
-            rest.take_word();
+            take_item(rest);
     }
 }
 
 int store_selector(media_description &section, const char *line_start, const char *line_end)
 {
+    const int32_t stored = section.num_file_selectors < 0 ? 0 : section.num_file_selectors;
+    if (stored >= SDP_MAX_FILE_SELECTORS)
+        return 1;
     char name[200];
     char value[200];
     const int parts = get_type_and_value(line_start, line_end, name, value, nullptr, ":", "\r");
     if (parts == 0)
         return fail();
-    const int32_t stored = section.num_file_selectors < 0 ? 0 : section.num_file_selectors;
-    if (stored >= SDP_MAX_FILE_SELECTORS)
-        return 1;
     sdp_file_selector &selector = section.file_selectors[stored];
     selector = {};
     if (parts == 2)

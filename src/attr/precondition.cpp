@@ -125,10 +125,12 @@ int encode_precondition_attr(sdp_lib_context *context, media_description *descri
 
 int parse_a_equal_pcd_line(media_description *description, const char *line_start, const char *line_end)
 {
-    if (description == nullptr || line_start == nullptr || line_end == nullptr) {
+    if (description == nullptr || line_start == nullptr) {
         DAK_LOG("parse_a_equal_pcd_line :                          NULL Pararms sent \n");
         return 0;
     }
+    if (line_end == nullptr)
+        return fail();
     if (is_full(*description)) {
         DAK_LOG("parse_a_equal_pcd_line: pcd attr size exceeded\n");
         return 1;

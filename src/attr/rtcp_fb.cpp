@@ -29,11 +29,13 @@ void copy_kind(rtcp_fb_kind &out, const rtcp_fb_entry &entry)
 
 const rtcp_fb_entry *read_kind(const rtcp_fb_list *list, rtcp_fb_kind *out, int index)
 {
-    const rtcp_fb_entry *entry = list != nullptr && out != nullptr ? readable_entry(*list, index) : nullptr;
+    const rtcp_fb_entry *entry = list != nullptr ? readable_entry(*list, index) : nullptr;
     if (entry == nullptr) {
         DAK_LOG("Invalid params \n");
         return nullptr;
     }
+    if (out == nullptr)
+        return fail_null();
     copy_kind(*out, *entry);
     return entry;
 }
@@ -75,7 +77,10 @@ int dak_sdp_add_media_rtcp_fb_to_media_description(media_description *descriptio
         dak_assert_failed();
         return -1;
     }
-    description->codecs[index].rtcp_fb = *feedback;
+    rtcp_fb_list &list = description->codecs[index].rtcp_fb;
+    list = *feedback;
+    for (rtcp_fb_entry &entry : list.fb_entries)
+        entry.fb_param[sizeof entry.fb_param - 1] = '\0';
     return index;
 }
 

@@ -26,6 +26,7 @@ struct feedback_tail {
 bool take_if(text_range &rest, const char *word)
 {
     text_range ahead = rest;
+    ahead.skip_blanks();
     if (!ahead.take_word().equals(word))
         return false;
     rest = ahead;
@@ -159,8 +160,12 @@ int store_payloads(media_description &description, uint32_t first_number, text_r
 int dak_sdp_parse_a_equal_rtcp_fb_line(media_description *description, const char *line_start,
                                        const char *line_end)
 {
-    if (!has_read_arguments(description, line_start, line_end))
+    if (description == nullptr || line_start == nullptr) {
+        DAK_LOG("NULL Pararms sent \n");
         return 0;
+    }
+    if (line_end == nullptr)
+        return fail();
     if (!field_text(description->transport_profile).equals("RTP/AVPF"))
         return skip_for_profile(*description);
     char name[200];
@@ -168,7 +173,7 @@ int dak_sdp_parse_a_equal_rtcp_fb_line(media_description *description, const cha
     const char *next = nullptr;
     if (get_type_and_value(line_start, line_end, name, payload, &next, ":", nullptr) != 2)
         return fail();
-    const text_range rest(next, line_end);
+    const text_range rest = text_range(next, line_end).trimmed();
     if (text_range(payload).equals("*"))
         return store_wildcard(description->rtcp_fb, rest);
     uint32_t number = 0;

@@ -41,6 +41,8 @@ int set_media_value(media_description *description, int index, const char *name,
 {
     char trimmed_name[200];
     uint32_t mime = 0;
+    if (value == nullptr)
+        return fail();
     if (!prepare(description, index, name, trimmed_name))
         return 0;
     if (!dak_sdp_get_mime_val(description->codecs[index].mime_type, &mime))

@@ -15,17 +15,17 @@ constexpr unsigned char to_upper(char c)
     return byte >= 'a' && byte <= 'z' ? static_cast<unsigned char>(byte - 'a' + 'A') : byte;
 }
 
-// Sign of the byte comparison of two terminated texts, letters folded.
-constexpr int compare_ignoring_case(const char *a, const char *b)
+// Compares a fixed field, terminated or not, with a terminated text, letters folded.
+template <decltype(sizeof 0) N> constexpr bool equal_ignoring_case(const char (&field)[N], const char *text)
 {
-    while (*a != '\0' && to_upper(*a) == to_upper(*b)) {
-        a++;
-        b++;
+    for (decltype(N) i = 0; i < N; i++) {
+        if (to_upper(field[i]) != to_upper(text[i]))
+            return false;
+        if (field[i] == '\0')
+            return true;
     }
-    return to_upper(*a) - to_upper(*b);
+    return text[N] == '\0';
 }
-
-constexpr bool equal_ignoring_case(const char *a, const char *b) { return compare_ignoring_case(a, b) == 0; }
 
 } // namespace dak
 

@@ -12,7 +12,7 @@ namespace dak {
 inline bool copy_text(char *destination, size_t size, text_range source)
 {
     const size_t kept = source.length() < size ? source.length() : size - 1;
-    memcpy(destination, source.first, kept);
+    memmove(destination, source.first, kept); // a caller may hand a field's own text back
     destination[kept] = '\0';
     return kept == source.length();
 }
@@ -26,17 +26,17 @@ template <size_t N> bool copy_text(char (&field)[N], text_range source)
 int copy_constant(char (&field)[200], const char *source);
 
 // The decimal digits of a number, for appending.
-class decimal
-{
-  public:
+class decimal {
+public:
     explicit decimal(uint64_t number) : decimal(number, false) {}
     static decimal of_signed(int64_t number)
     {
-        return number < 0 ? decimal(0 - static_cast<uint64_t>(number), true) : decimal(static_cast<uint64_t>(number));
+        return number < 0 ? decimal(0 - static_cast<uint64_t>(number), true)
+                          : decimal(static_cast<uint64_t>(number));
     }
     text_range text() const { return {digits_ + start_, sizeof digits_ - start_}; }
 
-  private:
+private:
     decimal(uint64_t magnitude, bool negative);
 
     size_t start_ = sizeof digits_;
@@ -45,9 +45,8 @@ class decimal
 
 // Builds a terminated text of fewer than `Size` characters. A piece that does not fit is left out with all
 // that follow it.
-template <size_t Size> class built_text
-{
-  public:
+template <size_t Size> class built_text {
+public:
     built_text &add(text_range piece)
     {
         fits_ = fits_ && piece.length() < Size - length_;
@@ -73,7 +72,7 @@ template <size_t Size> class built_text
     const char *c_str() const { return text_; }
     text_range text() const { return {text_, length_}; }
 
-  private:
+private:
     size_t length_ = 0;
     bool fits_ = true;
     char text_[Size] = "";

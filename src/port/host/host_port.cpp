@@ -54,15 +54,9 @@ void dak_host_set_assert_hook(dak_host_assert_hook hook, void *user)
     assert_hook = {hook != nullptr ? hook : stay_silent, user};
 }
 
-void *dak_malloc(size_t size)
-{
-    return malloc(size);
-}
+void *dak_malloc(size_t size) { return malloc(size); }
 
-void dak_free(void *block)
-{
-    free(block);
-}
+void dak_free(void *block) { free(block); }
 
 char *dak_strtok(char *text, const char *delimiters, char **save)
 {
@@ -72,10 +66,7 @@ char *dak_strtok(char *text, const char *delimiters, char **save)
     return strtok_r(text, delimiters, save);
 }
 
-void dak_assert_failed(void)
-{
-    assert_hook.function(assert_hook.user);
-}
+void dak_assert_failed(void) { assert_hook.function(assert_hook.user); }
 
 int platInetPton(int family, const char *text, void *destination)
 {
