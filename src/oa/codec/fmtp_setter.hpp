@@ -4,7 +4,7 @@
 
 #include "oa/codec/fmtp_setter.h"
 #include "oa/result_code.h"
-#include "util/report.hpp"
+#include "oa/truncation.hpp"
 
 namespace dak {
 
@@ -38,14 +38,6 @@ class parameter_writer
     uint16_t codec_index_;
     uint32_t result_ = SDP_OA_SUCCESS;
 };
-
-// Reports text that does not fit a fixed buffer.
-inline uint32_t fail_as_truncated(size_t size)
-{
-    DAK_LOG("len of str printed exceeded dst str len%d \n", static_cast<int>(size));
-    dak_assert_failed();
-    return SDP_OA_TOO_LONG;
-}
 
 } // namespace dak
 

@@ -3,6 +3,7 @@
 #include "codec/media_value.h"
 #include "oa/codec/fmtp_setter.hpp"
 #include "oa/result_code.h"
+#include "oa/truncation.hpp"
 #include "util/bounded_text.hpp"
 #include "util/number.hpp"
 #include "util/report.hpp"
@@ -164,8 +165,7 @@ uint32_t check_list(const char *text, const h263_params *params)
     }
     if (text_range(text).length() < list_size)
         return SDP_OA_SUCCESS;
-    DAK_LOG("src str len exceeded dst str len%d \n", static_cast<int>(list_size));
-    return SDP_OA_TOO_LONG;
+    return log_long_value(list_size);
 }
 
 } // namespace

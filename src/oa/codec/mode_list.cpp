@@ -1,6 +1,7 @@
 #include "oa/codec/mode_list.hpp"
 
 #include "oa/result_code.h"
+#include "oa/truncation.hpp"
 #include "util/number.hpp"
 #include "util/report.hpp"
 
@@ -24,8 +25,7 @@ uint32_t read_modes(const char *text, const mode_list_rule &rule, uint8_t &is_pr
     constexpr const char *delimiters = ",;";
     text_range rest(text);
     if (rest.length() > longest) {
-        DAK_LOG("src str len exceeded dst str len%d \n", static_cast<int>(longest + 1));
-        return SDP_OA_TOO_LONG;
+        return log_long_value(longest + 1);
     }
     is_present = 0;
     mode_map = 0;

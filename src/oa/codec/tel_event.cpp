@@ -3,6 +3,7 @@
 #include "codec/media_value.h"
 #include "oa/codec/fmtp_setter.hpp"
 #include "oa/result_code.h"
+#include "oa/truncation.hpp"
 #include "util/bounded_text.hpp"
 #include "util/number.hpp"
 #include "util/report.hpp"
@@ -133,8 +134,7 @@ uint32_t dak_app_oa_get_dtmf_tel_event(const char *text, sdp_tel_event_entry *ev
         return SDP_OA_INVALID_CONTENT;
     text_range rest(text);
     if (rest.length() > list_size) {
-        DAK_LOG("src str len exceeded dst str len%d \n", static_cast<int>(list_size + 1));
-        return SDP_OA_TOO_LONG;
+        return log_long_value(list_size + 1);
     }
     for (int i = 0; i < SDP_TEL_EVENT_ENTRIES; i++) {
         const text_range token = rest.take_token(delimiters);

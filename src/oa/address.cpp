@@ -1,0 +1,89 @@
+#include "oa/address.h"
+
+#include "oa/result_code.h"
+#include "oa/truncation.hpp"
+#include "util/bounded_text.hpp"
+#include "util/report.hpp"
+
+using namespace dak;
+
+namespace {
+
+bool append(char *text, size_t capacity, text_range piece)
+{
+    const size_t used = strnlen(text, capacity);
+    return used < capacity && copy_text(text + used, capacity - used, piece);
+}
+
+uint32_t parse_network_type(text_range word, sdp_address &address)
+{
+    if (word.empty()) {
+        DAK_LOG("dak_app_oa_parse_address: No network type\n");
+        return SDP_OA_MISSING_TOKEN;
+    }
+    if (word.equals("IN")) {
+        copy_text(address.net_type, word);
+        return SDP_OA_SUCCESS;
+    }
+    char found[256];
+    copy_text(found, word);
+    DAK_LOG("dak_app_oa_parse_address: Error in network                            type: %s\n", found);
+    return SDP_OA_INVALID_CONTENT;
+}
+
+uint32_t parse_address_type(text_range word, sdp_address &address)
+{
+    if (word.empty()) {
+        DAK_LOG("dak_app_oa_parse_address: No address type\n");
+        return SDP_OA_MISSING_TOKEN;
+    }
+    address.addr_type = word.equals("IP4") ? SDP_ADDR_IPV4 : word.equals("IP6") ? SDP_ADDR_IPV6 : SDP_ADDR_NOT_SET;
+    return address.addr_type != SDP_ADDR_NOT_SET ? SDP_OA_SUCCESS : SDP_OA_INVALID_CONTENT;
+}
+
+uint32_t parse_address_text(text_range word, sdp_address &address)
+{
+    if (word.empty()) {
+        DAK_LOG("dak_app_oa_parse_address: No address info\n");
+        return SDP_OA_MISSING_TOKEN;
+    }
+    if (copy_text(address.address, word))
+        return SDP_OA_SUCCESS;
+    return log_truncation(sizeof address.address);
+}
+
+} // namespace
+
+uint32_t dak_app_oa_add_address_value(char *text, uint16_t capacity, const sdp_address *address)
+{
+    if (text == nullptr || address == nullptr) {
+        DAK_LOG("dak_app_oa_add_address_value:                                        Incorrect params\n");
+        return SDP_OA_BAD_PARAMETERS;
+    }
+    if (address->addr_type != SDP_ADDR_IPV4 && address->addr_type != SDP_ADDR_IPV6) {
+        DAK_LOG("dak_app_oa_parse_address: Invalid address                        type: %d\n",
+                static_cast<int>(address->addr_type));
+        return SDP_OA_INVALID_CONTENT;
+    }
+    const char *types = address->addr_type == SDP_ADDR_IPV4 ? "IN IP4" : "IN IP6";
+    if (append(text, capacity, types) && append(text, capacity, " ") &&
+        append(text, capacity, field_text(address->address)))
+        return SDP_OA_SUCCESS;
+    return log_truncation(capacity);
+}
+
+uint32_t dak_app_oa_parse_address(char *text, sdp_address *address)
+{
+    if (text == nullptr || address == nullptr) {
+        DAK_LOG("dak_app_oa_parse_address: Incorrect params\n");
+        return SDP_OA_BAD_PARAMETERS;
+    }
+    address->addr_type = SDP_ADDR_NOT_SET;
+    text_range rest(text);
+    uint32_t result = parse_network_type(rest.take_word(), *address);
+    if (result == SDP_OA_SUCCESS)
+        result = parse_address_type(rest.take_word(), *address);
+    if (result == SDP_OA_SUCCESS)
+        result = parse_address_text(rest.take_word(), *address);
+    return result;
+}
