@@ -37,7 +37,9 @@ uint32_t parse_address_type(text_range word, sdp_address &address)
         DAK_LOG("dak_app_oa_parse_address: No address type\n");
         return SDP_OA_MISSING_TOKEN;
     }
-    address.addr_type = word.equals("IP4") ? SDP_ADDR_IPV4 : word.equals("IP6") ? SDP_ADDR_IPV6 : SDP_ADDR_NOT_SET;
+    address.addr_type = word.equals("IP4")   ? SDP_ADDR_IPV4
+                        : word.equals("IP6") ? SDP_ADDR_IPV6
+                                             : SDP_ADDR_NOT_SET;
     return address.addr_type != SDP_ADDR_NOT_SET ? SDP_OA_SUCCESS : SDP_OA_INVALID_CONTENT;
 }
 

@@ -10,8 +10,8 @@
 
 namespace dak {
 
-// Stores the lines up to the first absent one through `store(text)`. A wrong modifier is logged as that of the
-// entry which `named(i)` gives. Only a refusal of the fifth line counts.
+// Stores the lines up to the first absent one through `store(text)`. A wrong modifier is logged as that of
+// the entry which `named(i)` gives. Only a refusal of the fifth line counts.
 template <typename Store, typename Named>
 uint32_t encode_bandwidth(const sdp_bandwidth &bandwidth, Store store, Named named)
 {
@@ -42,13 +42,13 @@ uint32_t encode_bandwidth(const sdp_bandwidth &bandwidth, Store store, Named nam
 // What tells the two readers of bandwidth lines apart.
 struct bandwidth_reader {
     const char *no_info;
-    const char *invalid_value;    // with one %lu
+    const char *invalid_value; // with one %lu
     uint32_t invalid_value_result;
 };
 
 // Reads one line into an entry; `is_last` is set where the reading of further lines ends.
-inline uint32_t read_bandwidth_entry(text_range value, const bandwidth_reader &reader, sdp_bandwidth_entry &entry,
-                                     bool &is_last)
+inline uint32_t read_bandwidth_entry(text_range value, const bandwidth_reader &reader,
+                                     sdp_bandwidth_entry &entry, bool &is_last)
 {
     const text_range modifier = value.take_token(":\r\n");
     const text_range number = value.take_token("\r\n");

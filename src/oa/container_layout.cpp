@@ -1,5 +1,5 @@
-// The layout that callers compiled against: the same on 32-bit ARM, AArch64 and x86-64, but for the pointer at
-// the container's end.
+// The layout that callers compiled against: the same on 32-bit ARM, AArch64 and x86-64, but for the pointer
+// at the container's end.
 
 #include "oa/sdp_container.h"
 

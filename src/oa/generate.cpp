@@ -29,11 +29,14 @@ constexpr session_builder session_builders[] = {
      "dak_app_oa_generate_sdp: Error encoding session                                                    \n"},
     {dak_app_oa_encode_info,
      "dak_app_oa_generate_sdp: Error encoding info                                             \n"},
-    {dak_app_oa_encode_bw, "dak_app_oa_generate_sdp: Error encoding BW                                             \n"},
-    {dak_app_oa_encode_connection, "dak_app_oa_generate_sdp:                            Error encoding connection\n"},
+    {dak_app_oa_encode_bw,
+     "dak_app_oa_generate_sdp: Error encoding BW                                             \n"},
+    {dak_app_oa_encode_connection,
+     "dak_app_oa_generate_sdp:                            Error encoding connection\n"},
     {dak_app_oa_encode_time,
      "dak_app_oa_generate_sdp: Error encoding time                                             \n"},
-    {dak_app_oa_encode_gen_attr, "dak_app_oa_generate_sdp:                             Error encoding attributes\n"},
+    {dak_app_oa_encode_gen_attr,
+     "dak_app_oa_generate_sdp:                             Error encoding attributes\n"},
 };
 
 uint32_t build_document(sdp_lib_context *document, sdp_container *container)
@@ -47,15 +50,16 @@ uint32_t build_document(sdp_lib_context *document, sdp_container *container)
     }
     const uint32_t result = dak_app_oa_encode_mlines(document, container);
     if (result != SDP_OA_SUCCESS)
-        DAK_LOG("dak_app_oa_generate_sdp: Error encoding media                                        lines\n");
+        DAK_LOG(
+            "dak_app_oa_generate_sdp: Error encoding media                                        lines\n");
     return result;
 }
 
 uint32_t copy_out(const char *text, const sdp_payload_buffer &buffer)
 {
     const text_range written(text);
-    DAK_LOG("dak_app_oa_generate_sdp: SDP out length: %d, In length: %d\n", static_cast<int>(written.length()),
-            static_cast<int>(buffer.capacity));
+    DAK_LOG("dak_app_oa_generate_sdp: SDP out length: %d, In length: %d\n",
+            static_cast<int>(written.length()), static_cast<int>(buffer.capacity));
     if (written.length() + 1 > buffer.capacity) {
         DAK_LOG("dak_app_oa_generate_sdp: SDP length greater than                             allocated \n");
         return SDP_OA_TOO_LONG;
@@ -72,7 +76,8 @@ uint32_t encode_document(sdp_lib_context *document, const sdp_payload_buffer &bu
     }
     const char *text = get_sdp_text(document);
     if (text == nullptr) {
-        DAK_LOG("dak_app_oa_generate_sdp:Failed getting Encoder                                     sdp_payload \n");
+        DAK_LOG("dak_app_oa_generate_sdp:Failed getting Encoder                                     "
+                "sdp_payload \n");
         return SDP_OA_BAD_PARAMETERS;
     }
     return copy_out(text, buffer);
@@ -87,12 +92,14 @@ uint32_t dak_app_oa_generate_sdp(sdp_container *container, sdp_payload_buffer *b
         return SDP_OA_BAD_PARAMETERS;
     }
     if (buffer->capacity == 0) {
-        DAK_LOG("dak_app_oa_generate_sdp: Invalid SDP Payload                                             length\n");
+        DAK_LOG("dak_app_oa_generate_sdp: Invalid SDP Payload                                             "
+                "length\n");
         return SDP_OA_INVALID_CONTENT;
     }
     sdp_lib_context *document = init_sdp_lib();
     if (document == nullptr) {
-        DAK_LOG("dak_app_oa_generate_sdp: SDP context init                                              failed\n");
+        DAK_LOG("dak_app_oa_generate_sdp: SDP context init                                              "
+                "failed\n");
         return SDP_OA_BAD_PARAMETERS;
     }
     uint32_t result = build_document(document, container);

@@ -27,7 +27,8 @@ bool can_be_written(uint32_t media_type)
     return media_type == SDP_MEDIA_AUDIO || media_type == SDP_MEDIA_VIDEO || media_type == SDP_MEDIA_MESSAGE;
 }
 
-// A builder of one media section, and what is logged when it fails; `result` replaces its code if it is not 0.
+// A builder of one media section, and what is logged when it fails; `result` replaces its code if it is not
+// 0.
 struct section_builder {
     uint32_t (*encode)(media_description *md, sdp_media_line *mline);
     const char *failure;
@@ -59,7 +60,8 @@ constexpr section_builder section_builders[] = {
     {dak_app_oa_encode_media_formats,
      "dak_app_oa_encode_mlines: Invalid                                          media formats\n", 0},
     {encode_line_attributes,
-     "dak_app_oa_encode_media_message_attr: Invalid                                          message attr\n", 0},
+     "dak_app_oa_encode_media_message_attr: Invalid                                          message attr\n",
+     0},
     {encode_line_message, invalid_attribute, SDP_OA_INVALID_CONTENT},
 };
 
@@ -96,14 +98,16 @@ uint32_t encode_codec(media_description *md, sdp_payload_format &format, uint32_
 {
     const sdp_mime_entry *entry = dak_app_sdp_find_medentry_by_pt(format.codec_id);
     if (entry == nullptr) {
-        DAK_LOG("dak_app_oa_encode_media_formats:No media                                                type\n");
+        DAK_LOG(
+            "dak_app_oa_encode_media_formats:No media                                                type\n");
         return SDP_OA_BAD_PARAMETERS;
     }
     constexpr uint32_t hz_per_khz = 1000;
-    const int index = add_media_codec_to_media_description(md, static_cast<int32_t>(payload_number), entry->mime_name,
-                                                           format.clock_rate_khz * hz_per_khz, 1);
+    const int index = add_media_codec_to_media_description(
+        md, static_cast<int32_t>(payload_number), entry->mime_name, format.clock_rate_khz * hz_per_khz, 1);
     if (index < 0) {
-        DAK_LOG("dak_app_oa_encode_media_formats: Invalid                                      payload index\n");
+        DAK_LOG(
+            "dak_app_oa_encode_media_formats: Invalid                                      payload index\n");
         return SDP_OA_INVALID_CONTENT;
     }
     if (entry->encode == nullptr)
@@ -115,7 +119,8 @@ uint32_t encode_codec(media_description *md, sdp_payload_format &format, uint32_
 }
 
 // Hands the format's feedback over; too long a list is refused by the lower layer.
-uint32_t encode_format_feedback(media_description *md, const sdp_payload_format &format, uint32_t payload_number)
+uint32_t encode_format_feedback(media_description *md, const sdp_payload_format &format,
+                                uint32_t payload_number)
 {
     rtcp_fb_list list = {};
     list.fb_present = 1;
@@ -134,9 +139,11 @@ uint32_t encode_format_feedback(media_description *md, const sdp_payload_format 
     return SDP_OA_INVALID_CONTENT;
 }
 
-uint32_t encode_format(media_description *md, sdp_payload_format &format, uint32_t payload_number, uint32_t transport)
+uint32_t encode_format(media_description *md, sdp_payload_format &format, uint32_t payload_number,
+                       uint32_t transport)
 {
-    if (add_media_rtpmap_valid_to_media_description(md, static_cast<int32_t>(payload_number), format.has_rtpmap) < 0) {
+    if (add_media_rtpmap_valid_to_media_description(md, static_cast<int32_t>(payload_number),
+                                                    format.has_rtpmap) < 0) {
         DAK_LOG("dak_app_oa_encode_media_formats: Invalid                                      Media type\n");
         return SDP_OA_INVALID_CONTENT;
     }
@@ -213,9 +220,11 @@ struct number_attribute {
 };
 constexpr number_attribute number_attributes[] = {
     {"framerate", &sdp_media_line::framerate_present, &sdp_media_line::framerate,
-     "dak_app_oa_encode_media_gen_attr:No frame rate                                                         info\n"},
+     "dak_app_oa_encode_media_gen_attr:No frame rate                                                         "
+     "info\n"},
     {"maxprate", &sdp_media_line::maxprate_present, &sdp_media_line::maxprate,
-     "dak_app_oa_encode_media_gen_attr:No frame rate                                                         info\n"},
+     "dak_app_oa_encode_media_gen_attr:No frame rate                                                         "
+     "info\n"},
     {"maxptime", &sdp_media_line::maxptime_present, &sdp_media_line::maxptime,
      "dak_app_oa_encode_media_gen_attr:No Maxptime                                          attr\n"},
     {"ptime", &sdp_media_line::ptime_present, &sdp_media_line::ptime,
@@ -239,7 +248,8 @@ uint32_t encode_mid(media_description *md, const sdp_media_line &mline)
 {
     if (mline.mid_present == 0)
         return SDP_OA_SUCCESS;
-    return store_value(md, "mid", field_text(mline.mid), "dak_app_oa_encode_media_gen_attr:No SDP MID attr\n");
+    return store_value(md, "mid", field_text(mline.mid),
+                       "dak_app_oa_encode_media_gen_attr:No SDP MID attr\n");
 }
 
 uint32_t encode_precondition(media_description *md, const sdp_precondition &entry)
@@ -303,7 +313,8 @@ uint32_t dak_app_oa_encode_mlines(sdp_lib_context *document, sdp_container *cont
         return SDP_OA_BAD_PARAMETERS;
     }
     for (uint16_t i = 0; i < container->num_mlines; i++) {
-        const uint32_t result = encode_mline(document, container->mlines != nullptr ? &container->mlines[i] : nullptr);
+        const uint32_t result =
+            encode_mline(document, container->mlines != nullptr ? &container->mlines[i] : nullptr);
         if (result != SDP_OA_SUCCESS)
             return result;
     }
@@ -322,8 +333,8 @@ media_description *dak_app_oa_encode_common_media_line(const sdp_media_line *mli
     const word *media = find_word(media_words, mline->media_type);
     if (media == nullptr || !can_be_written(mline->media_type))
         return nullptr;
-    return init_media_description(media->text, mline->port, mline->num_ports, transport->text, mline->payload_numbers,
-                                  mline->num_formats);
+    return init_media_description(media->text, mline->port, mline->num_ports, transport->text,
+                                  mline->payload_numbers, mline->num_formats);
 }
 
 uint32_t dak_app_oa_encode_media_bandwidth(media_description *md, const sdp_bandwidth *bandwidth)
@@ -339,13 +350,15 @@ uint32_t dak_app_oa_encode_media_bandwidth(media_description *md, const sdp_band
 uint32_t dak_app_oa_encode_media_formats(media_description *md, sdp_media_line *mline)
 {
     if (md == nullptr || mline == nullptr) {
-        DAK_LOG("dak_app_oa_encode_media_formats: Incorrect                                                      params\n");
+        DAK_LOG("dak_app_oa_encode_media_formats: Incorrect                                                  "
+                "    params\n");
         return SDP_OA_BAD_PARAMETERS;
     }
     for (int i = 0; i < mline->num_formats && i < SDP_MAX_FORMATS; i++) {
         if (mline->formats[i].present == 0)
             continue;
-        const uint32_t result = encode_format(md, mline->formats[i], mline->payload_numbers[i], mline->transport);
+        const uint32_t result =
+            encode_format(md, mline->formats[i], mline->payload_numbers[i], mline->transport);
         if (result != SDP_OA_SUCCESS)
             return result;
     }

@@ -31,8 +31,8 @@ uint32_t dak_app_oa_encode_mlines(sdp_lib_context *document, sdp_container *cont
  * Creates the media section of a media line.
  * @param mline the media line
  * @return the section, to be handed to a document or released with clean_media_description(); null for null,
- *         another transport than RTP/AVP, RTP/AVPF and TCP/MSRP (logged), another media type than audio, video
- *         and message, more than 20 formats or no memory
+ *         another transport than RTP/AVP, RTP/AVPF and TCP/MSRP (logged), another media type than audio,
+ * video and message, more than 20 formats or no memory
  */
 media_description *dak_app_oa_encode_common_media_line(const sdp_media_line *mline);
 
@@ -40,16 +40,16 @@ media_description *dak_app_oa_encode_common_media_line(const sdp_media_line *mli
 uint32_t dak_app_oa_encode_media_bandwidth(media_description *md, const sdp_bandwidth *bandwidth);
 
 /**
- * Binds the payload formats: a=rtpmap, codec parameters and, for the transport RTP/AVPF, feedback. 3, with a log
- * line, also for an unknown codec; 7, with a log line, for a payload number above 95 without a=rtpmap line; else
- * the code of the codec's encode function.
+ * Binds the payload formats: a=rtpmap, codec parameters and, for the transport RTP/AVPF, feedback. 3, with a
+ * log line, also for an unknown codec; 7, with a log line, for a payload number above 95 without a=rtpmap
+ * line; else the code of the codec's encode function.
  */
 uint32_t dak_app_oa_encode_media_formats(media_description *md, sdp_media_line *mline);
 
 /**
- * Stores direction, setup or connection, framerate, maxprate, maxptime, ptime, mid, preconditions and, for the
- * transport RTP/AVPF, feedback for all formats. 1, with a log line, for ten preconditions or more; 3, with a log
- * line, also when framerate, maxprate, maxptime, ptime or mid is refused.
+ * Stores direction, setup or connection, framerate, maxprate, maxptime, ptime, mid, preconditions and, for
+ * the transport RTP/AVPF, feedback for all formats. 1, with a log line, for ten preconditions or more; 3,
+ * with a log line, also when framerate, maxprate, maxptime, ptime or mid is refused.
  */
 uint32_t dak_app_oa_encode_media_gen_attr(media_description *md, const sdp_media_line *mline);
 

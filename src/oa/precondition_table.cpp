@@ -65,8 +65,8 @@ uint32_t tabulate(const sdp_precondition &entry, const precondition_tables &tabl
 
 } // namespace
 
-uint32_t dak_app_oa_fill_pcd_list(uint32_t num_preconds, const sdp_precondition *preconds, uint8_t current[4][6],
-                                  uint32_t desired[4][6])
+uint32_t dak_app_oa_fill_pcd_list(uint32_t num_preconds, const sdp_precondition *preconds,
+                                  uint8_t current[4][6], uint32_t desired[4][6])
 {
     if (preconds == nullptr || current == nullptr || desired == nullptr)
         return null_argument;

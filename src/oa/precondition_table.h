@@ -23,8 +23,8 @@ extern "C" {
  * @return 0; 14, with a log line, for an entry of another kind, status type or direction, or more than 10
  *         entries; 15 for null
  */
-uint32_t dak_app_oa_fill_pcd_list(uint32_t num_preconds, const sdp_precondition *preconds, uint8_t current[4][6],
-                                  uint32_t desired[4][6]);
+uint32_t dak_app_oa_fill_pcd_list(uint32_t num_preconds, const sdp_precondition *preconds,
+                                  uint8_t current[4][6], uint32_t desired[4][6]);
 
 /**
  * Tells whether every mandatory precondition of every media line has its current status.

@@ -44,12 +44,15 @@ uint32_t add_strength(precondition_text &text, const sdp_precondition &entry)
         return SDP_OA_SUCCESS;
     const word *strength = find_word(strength_words, entry.desired.strength);
     if (strength == nullptr) {
-        DAK_LOG("dak_app_oa_encode_pre_cond_str : Error in                            Precondition strength: %d", 1);
+        DAK_LOG(
+            "dak_app_oa_encode_pre_cond_str : Error in                            Precondition strength: %d",
+            1);
         return SDP_OA_INVALID_CONTENT;
     }
     if (text.add(strength->text).add(' ').fits())
         return SDP_OA_SUCCESS;
-    return overflow("dak_app_oa_encode_pre_cond_str :                                 error - buffer overflow ");
+    return overflow(
+        "dak_app_oa_encode_pre_cond_str :                                 error - buffer overflow ");
 }
 
 uint32_t add_status(precondition_text &text, const sdp_precondition &entry)
@@ -68,7 +71,8 @@ uint32_t add_status(precondition_text &text, const sdp_precondition &entry)
     }
     if (text.add(status->text).add(' ').add(direction->text).fits())
         return SDP_OA_SUCCESS;
-    return overflow("dak_app_oa_encode_pre_cond_str :                               error - buffer overflow ");
+    return overflow(
+        "dak_app_oa_encode_pre_cond_str :                               error - buffer overflow ");
 }
 
 // Stores the status type and the direction where the entry's kind has them.
@@ -97,7 +101,8 @@ uint32_t read_strength(text_range &rest, sdp_precondition &entry)
 
 // Reads one word of a table; `missing` and `unknown` are the log texts of its failures.
 template <size_t N>
-uint32_t read_word(text_range &rest, const word (&words)[N], const char *missing, const char *unknown, uint32_t &value)
+uint32_t read_word(text_range &rest, const word (&words)[N], const char *missing, const char *unknown,
+                   uint32_t &value)
 {
     const text_range token = rest.take_token(delimiters);
     if (token.empty()) {
@@ -117,13 +122,15 @@ uint32_t read_status(text_range &rest, sdp_precondition &entry)
 {
     uint32_t status_type = 0;
     uint32_t direction = 0;
-    uint32_t result = read_word(rest, status_words,
-                                "dak_app_oa_parse_pre_cond_str :                              Status Type not avail \n",
-                                "dak_app_oa_parse_pre_cond_str :                             invalid link \n", status_type);
+    uint32_t result =
+        read_word(rest, status_words,
+                  "dak_app_oa_parse_pre_cond_str :                              Status Type not avail \n",
+                  "dak_app_oa_parse_pre_cond_str :                             invalid link \n", status_type);
     if (result == SDP_OA_SUCCESS)
-        result = read_word(rest, precondition_direction_words,
-                           "dak_app_oa_parse_pre_cond_str :                             Direc. Attr unavailable \n",
-                           "dak_app_oa_parse_pre_cond_str :                             unknown direction \n", direction);
+        result = read_word(
+            rest, precondition_direction_words,
+            "dak_app_oa_parse_pre_cond_str :                             Direc. Attr unavailable \n",
+            "dak_app_oa_parse_pre_cond_str :                             unknown direction \n", direction);
     if (result != SDP_OA_SUCCESS)
         return result;
     if (!is_kind(entry.kind)) {
@@ -172,7 +179,8 @@ uint32_t dak_app_oa_parse_pre_cond_str(const char *value, sdp_precondition *entr
         DAK_LOG("dak_app_oa_parse_pre_cond_str :                           Invalid pcd type \n");
         return SDP_OA_INVALID_CONTENT;
     }
-    entry->precond_type = find_word(precondition_type_words, type) != nullptr ? SDP_PRECOND_QOS : SDP_PRECOND_UNKNOWN;
+    entry->precond_type =
+        find_word(precondition_type_words, type) != nullptr ? SDP_PRECOND_QOS : SDP_PRECOND_UNKNOWN;
     const uint32_t result = read_strength(rest, *entry);
     return result == SDP_OA_SUCCESS ? read_status(rest, *entry) : result;
 }

@@ -69,10 +69,12 @@ uint32_t build_origin(heap_text &line, const sdp_container &container)
     uint32_t result = add_username(line, container);
     if (result == SDP_OA_SUCCESS)
         result = add_number(line, container.origin_session_id,
-                            "dak_app_oa_encode_origin:Insufficient                            length to fit Session Id: %d \n");
+                            "dak_app_oa_encode_origin:Insufficient                            length to fit "
+                            "Session Id: %d \n");
     if (result == SDP_OA_SUCCESS)
         result = add_number(line, container.origin_session_version,
-                            "dak_app_oa_encode_origin:Insufficient                            length to fit Session version: %d\n");
+                            "dak_app_oa_encode_origin:Insufficient                            length to fit "
+                            "Session version: %d\n");
     if (result != SDP_OA_SUCCESS)
         return result;
     result = dak_app_oa_add_address_value(line.c_str(), origin_size - 1, &container.origin_address);
@@ -110,7 +112,8 @@ uint32_t encode_direction(sdp_lib_context *document, const sdp_container &contai
         return SDP_OA_INVALID_CONTENT;
     }
     is_refused = store(document, "a=", direction->text,
-                       "dak_app_oa_encode_gen_attr:                              Invalid attr tag\n") != SDP_OA_SUCCESS;
+                       "dak_app_oa_encode_gen_attr:                              Invalid attr tag\n") !=
+                 SDP_OA_SUCCESS;
     return SDP_OA_SUCCESS;
 }
 
@@ -158,7 +161,8 @@ uint32_t encode_groups(sdp_lib_context *document, const sdp_container &container
         const uint32_t result = build_group(text, container, container.groups[i]);
         if (result != SDP_OA_SUCCESS)
             return result;
-        is_refused = store(document, "a=", text.c_str(), "encode_gen_attr: Invalid attr tag\n") != SDP_OA_SUCCESS;
+        is_refused =
+            store(document, "a=", text.c_str(), "encode_gen_attr: Invalid attr tag\n") != SDP_OA_SUCCESS;
     }
     return SDP_OA_SUCCESS;
 }
@@ -177,7 +181,8 @@ uint32_t build_accept(attribute_text &text, const sdp_container &container, cons
 {
     if (accept.kind == 0) {
         if (accept.types[0] > SDP_ACCEPT_IMDN) {
-            DAK_LOG("dak_app_oa_encode_message_attr:Invalid   \t\t\t\t\t\t\t\t\t\t\t\t\t\t accept-type.attr: %d\n",
+            DAK_LOG("dak_app_oa_encode_message_attr:Invalid   \t\t\t\t\t\t\t\t\t\t\t\t\t\t accept-type.attr: "
+                    "%d\n",
                     static_cast<int>(container.direction));
             return SDP_OA_INVALID_CONTENT;
         }
@@ -204,7 +209,8 @@ uint32_t dak_app_oa_encode_version(sdp_lib_context *document, const sdp_containe
         return SDP_OA_INVALID_CONTENT;
     }
     return store(document, "v=", "0",
-                 "dak_app_oa_encode_version: Invalid version                                                       info\n");
+                 "dak_app_oa_encode_version: Invalid version                                                 "
+                 "      info\n");
 }
 
 uint32_t dak_app_oa_encode_origin(sdp_lib_context *document, const sdp_container *container)
@@ -213,14 +219,16 @@ uint32_t dak_app_oa_encode_origin(sdp_lib_context *document, const sdp_container
         return SDP_OA_BAD_PARAMETERS;
     heap_text line(origin_size);
     if (!line.is_allocated()) {
-        DAK_LOG("dak_app_oa_encode_origin:Malloc failed                                                    \n");
+        DAK_LOG(
+            "dak_app_oa_encode_origin:Malloc failed                                                    \n");
         return SDP_OA_NO_MEMORY;
     }
     const uint32_t result = build_origin(line, *container);
     if (result != SDP_OA_SUCCESS)
         return result;
-    return store(document, "o=", line.c_str(),
-                 "dak_app_oa_encode_origin:Invalid origin                                                 info \n");
+    return store(
+        document, "o=", line.c_str(),
+        "dak_app_oa_encode_origin:Invalid origin                                                 info \n");
 }
 
 uint32_t dak_app_oa_encode_session(sdp_lib_context *document, const sdp_container *container)
@@ -228,10 +236,12 @@ uint32_t dak_app_oa_encode_session(sdp_lib_context *document, const sdp_containe
     if (!are_given(document, container, "dak_app_oa_encode_session: Incorrect params\n"))
         return SDP_OA_BAD_PARAMETERS;
     if (container->session_name_present == 0)
-        return store(document, "s=", "-", "dak_app_oa_encode_session:                              Invalid session tag\n");
-    return encode_text(document, field_text(container->session_name),
-                       {"s=", "dak_app_oa_encode_session:Malloc failed\n",
-                        "dak_app_oa_encode_session:                                     Invalid session tag\n"});
+        return store(document, "s=", "-",
+                     "dak_app_oa_encode_session:                              Invalid session tag\n");
+    return encode_text(
+        document, field_text(container->session_name),
+        {"s=", "dak_app_oa_encode_session:Malloc failed\n",
+         "dak_app_oa_encode_session:                                     Invalid session tag\n"});
 }
 
 uint32_t dak_app_oa_encode_info(sdp_lib_context *document, const sdp_container *container)
@@ -240,9 +250,10 @@ uint32_t dak_app_oa_encode_info(sdp_lib_context *document, const sdp_container *
         return SDP_OA_BAD_PARAMETERS;
     if (container->info_present == 0)
         return SDP_OA_SUCCESS;
-    return encode_text(document, field_text(container->info),
-                       {"i=", "dak_app_oa_encode_info:Malloc failed \n",
-                        "dak_app_oa_encode_info:Invalid SDP context                                              value\n"});
+    return encode_text(
+        document, field_text(container->info),
+        {"i=", "dak_app_oa_encode_info:Malloc failed \n",
+         "dak_app_oa_encode_info:Invalid SDP context                                              value\n"});
 }
 
 uint32_t dak_app_oa_encode_bw(sdp_lib_context *document, const sdp_container *container)
@@ -268,14 +279,16 @@ uint32_t dak_app_oa_encode_connection(sdp_lib_context *document, const sdp_conta
         DAK_LOG("dak_app_oa_encode_connection:Malloc failed\n");
         return SDP_OA_NO_MEMORY;
     }
-    const uint32_t result =
-        dak_app_oa_add_address_value(text.c_str(), static_cast<uint16_t>(text.size()), &container->connection);
+    const uint32_t result = dak_app_oa_add_address_value(text.c_str(), static_cast<uint16_t>(text.size()),
+                                                         &container->connection);
     if (result != SDP_OA_SUCCESS) {
-        DAK_LOG("dak_app_oa_encode_connection:Invalid address                                                  info\n");
+        DAK_LOG("dak_app_oa_encode_connection:Invalid address                                                "
+                "  info\n");
         return result;
     }
     return store(document, "c=", text.c_str(),
-                 "dak_app_oa_encode_connection:Invalid connection                                                  info\n");
+                 "dak_app_oa_encode_connection:Invalid connection                                            "
+                 "      info\n");
 }
 
 uint32_t dak_app_oa_encode_time(sdp_lib_context *document, const sdp_container *container)
@@ -318,5 +331,6 @@ uint32_t dak_app_oa_encode_message_attr(sdp_lib_context *document, const sdp_con
     const uint32_t result = build_accept(text, *container, mline->accept_types);
     if (result != SDP_OA_SUCCESS)
         return result;
-    return store(document, "a=", text.c_str(), "dak_app_oa_encode_gen_attr:                            Invalid attr tag\n");
+    return store(document, "a=", text.c_str(),
+                 "dak_app_oa_encode_gen_attr:                            Invalid attr tag\n");
 }

@@ -22,8 +22,8 @@ extern "C" {
 uint32_t dak_app_oa_encode_version(sdp_lib_context *document, const sdp_container *container);
 
 /**
- * Stores the o= line. Session id and version are written as signed 64-bit numbers: 1, with a log line, for one
- * of 20 characters. 2, with a log line, when memory runs out.
+ * Stores the o= line. Session id and version are written as signed 64-bit numbers: 1, with a log line, for
+ * one of 20 characters. 2, with a log line, when memory runs out.
  */
 uint32_t dak_app_oa_encode_origin(sdp_lib_context *document, const sdp_container *container);
 
@@ -43,8 +43,8 @@ uint32_t dak_app_oa_encode_connection(sdp_lib_context *document, const sdp_conta
 uint32_t dak_app_oa_encode_time(sdp_lib_context *document, const sdp_container *container);
 
 /**
- * Stores the direction and the groups as a= lines; 1, with a log line, for a group of 256 characters or more. A
- * refused line gives 4 only when no group is stored behind it.
+ * Stores the direction and the groups as a= lines; 1, with a log line, for a group of 256 characters or more.
+ * A refused line gives 4 only when no group is stored behind it.
  */
 uint32_t dak_app_oa_encode_gen_attr(sdp_lib_context *document, const sdp_container *container);
 

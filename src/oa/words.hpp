@@ -46,9 +46,12 @@ inline constexpr word connection_words[] = {
 };
 
 inline constexpr word media_words[] = {
-    {SDP_MEDIA_AUDIO, "audio", "media type = audio\n"},       {SDP_MEDIA_VIDEO, "video", "media type = video\n"},
-    {SDP_MEDIA_DATA, "data", "media type = data\n"},          {SDP_MEDIA_CONTROL, "control", "media type = control\n"},
-    {SDP_MEDIA_MESSAGE, "message", "media type = message\n"}, {SDP_MEDIA_IMAGE, "image", "media type = image\n"},
+    {SDP_MEDIA_AUDIO, "audio", "media type = audio\n"},
+    {SDP_MEDIA_VIDEO, "video", "media type = video\n"},
+    {SDP_MEDIA_DATA, "data", "media type = data\n"},
+    {SDP_MEDIA_CONTROL, "control", "media type = control\n"},
+    {SDP_MEDIA_MESSAGE, "message", "media type = message\n"},
+    {SDP_MEDIA_IMAGE, "image", "media type = image\n"},
 };
 
 inline constexpr word transport_words[] = {

@@ -16,9 +16,8 @@ constexpr mode_list_rule amr_modes = {
     8, 9, "dak_app_oa_get_amr_mode:Invalid AMR                                               mode :%ld\n"};
 
 // Reads the parameters of one payload format; a failed read clears the presence flag and is logged.
-class amr_reader
-{
-  public:
+class amr_reader {
+public:
     amr_reader(media_description *md, uint16_t codec_index) : md_(md), codec_index_(codec_index) {}
 
     const char *text(const char *name) const { return get_media_value(md_, codec_index_, name); }
@@ -40,7 +39,9 @@ class amr_reader
     // 1 for a number of 1 or more, else 0.
     void flag(const char *name, uint8_t &is_present, uint8_t &value, const char *failure)
     {
-        reduced(name, is_present, value, [](int32_t number) { return static_cast<uint8_t>(number >= 1); }, failure);
+        reduced(
+            name, is_present, value, [](int32_t number) { return static_cast<uint8_t>(number >= 1); },
+            failure);
     }
 
     void count(const char *name, uint8_t &is_present, uint32_t &value, const char *failure) const
@@ -63,7 +64,7 @@ class amr_reader
             DAK_LOG(failure, static_cast<int>(value));
     }
 
-  private:
+private:
     media_description *md_;
     uint16_t codec_index_;
     int32_t last_number_ = 0;
@@ -74,9 +75,11 @@ void decode_values(amr_reader reader, sdp_amr_params &amr)
     // Both mode-change numbers share one text; log filters match on it.
     constexpr const char *mode_change_failure =
         "dak_app_sdp_decode_amr:Invalid mode change                 period : %lu \n";
-    reader.flag("octet-align", amr.octet_align_present, amr.octet_align,
-                "dak_app_sdp_decode_amr:Invalid octet                                             align: %d\n");
-    reader.count("mode-change-period", amr.mode_change_period_present, amr.mode_change_period, mode_change_failure);
+    reader.flag(
+        "octet-align", amr.octet_align_present, amr.octet_align,
+        "dak_app_sdp_decode_amr:Invalid octet                                             align: %d\n");
+    reader.count("mode-change-period", amr.mode_change_period_present, amr.mode_change_period,
+                 mode_change_failure);
     reader.count("mode-change-capability", amr.mode_change_capability_present, amr.mode_change_capability,
                  mode_change_failure);
     reader.flag("mode-change-neighbor", amr.mode_change_neighbor_present, amr.mode_change_neighbor,
@@ -137,7 +140,8 @@ uint32_t dak_app_sdp_decode_amr(media_description *md, uint16_t codec_index, voi
     amr.amr_params_valid = 1;
     const amr_reader reader(md, codec_index);
     const char *modes = reader.text("mode-set");
-    if (modes != nullptr && dak_app_oa_get_amr_mode(modes, &amr.mode_set_present, &amr.mode_set) != SDP_OA_SUCCESS) {
+    if (modes != nullptr &&
+        dak_app_oa_get_amr_mode(modes, &amr.mode_set_present, &amr.mode_set) != SDP_OA_SUCCESS) {
         DAK_LOG("dak_app_sdp_decode_amr:Invalid AMR mode\n");
         return SDP_OA_INVALID_CONTENT;
     }

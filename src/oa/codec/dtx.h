@@ -15,7 +15,8 @@ extern "C" {
 #endif
 
 /**
- * Writes "silencesupp", "dtxmax", "dtxmin" and "hangover", each when present, up to the first that is refused.
+ * Writes "silencesupp", "dtxmax", "dtxmin" and "hangover", each when present, up to the first that is
+ * refused.
  * @param md the media section
  * @param codec_index position of the payload format
  * @param dtx the values

@@ -16,7 +16,8 @@ constexpr size_t list_size = 256;
 constexpr size_t number_size = 21;
 constexpr uint16_t highest_mode = 7;
 constexpr mode_list_rule evrc_modes = {
-    highest_mode, 8, "dak_app_sdp_decode_evrc_mode:Invalid EVRC                                             mode :%ld\n"};
+    highest_mode, 8,
+    "dak_app_sdp_decode_evrc_mode:Invalid EVRC                                             mode :%ld\n"};
 
 // How a member treats the list behind its sendmode.
 enum class second_list { none, recvmode, mode_set_recv };
@@ -36,41 +37,78 @@ constexpr const char *invalid_evrcb_mode = "Invalid EVRCB mode %d";
 constexpr const char *invalid_evrcwb_mode = "Invalid EVRCWB mode %d";
 
 constexpr evrc_member evrc = {
-    second_list::none, false, "dak_app_sdp_encode_evrc:No fmtp/mline\n",
-    "dak_app_sdp_decode_evrc:No fmtp/parsed                                                    media\n", "",
-    "dak_app_sdp_encode_evrc:Invalid Maxinterleave                                    info\n", ""};
+    second_list::none,
+    false,
+    "dak_app_sdp_encode_evrc:No fmtp/mline\n",
+    "dak_app_sdp_decode_evrc:No fmtp/parsed                                                    media\n",
+    "",
+    "dak_app_sdp_encode_evrc:Invalid Maxinterleave                                    info\n",
+    ""};
 constexpr evrc_member evrc0 = {
-    second_list::none, false, "dak_app_sdp_encode_evrc0:No fmtp/mline\n",
-    "dak_app_sdp_decode_evrc0:No fmtp/parsed                                                    media\n", "", "", ""};
+    second_list::none,
+    false,
+    "dak_app_sdp_encode_evrc0:No fmtp/mline\n",
+    "dak_app_sdp_decode_evrc0:No fmtp/parsed                                                    media\n",
+    "",
+    "",
+    ""};
 constexpr evrc_member evrc1 = {
-    second_list::none, false, "dak_app_sdp_encode_evrc1:No fmtp/mline\n",
-    "dak_app_sdp_decode_evrc1:No fmtp/parsed                                                    media\n", "", "", ""};
+    second_list::none,
+    false,
+    "dak_app_sdp_encode_evrc1:No fmtp/mline\n",
+    "dak_app_sdp_decode_evrc1:No fmtp/parsed                                                    media\n",
+    "",
+    "",
+    ""};
 // EVRCB's decoder bears the name of EVRC's in its text.
 constexpr evrc_member evrcb = {
-    second_list::recvmode, true, "dak_app_sdp_encode_evrcb:No fmtp/mline\n",
+    second_list::recvmode,
+    true,
+    "dak_app_sdp_encode_evrcb:No fmtp/mline\n",
     "dak_app_sdp_decode_evrc:No fmtp/parsed                                                    media\n",
     "dak_app_sdp_encode_evrcb:No EVRC mode\n",
-    "dak_app_sdp_encode_evrcb:Invalid Maxinterleave                                    info\n", invalid_evrcb_mode};
+    "dak_app_sdp_encode_evrcb:Invalid Maxinterleave                                    info\n",
+    invalid_evrcb_mode};
 constexpr evrc_member evrcb0 = {
-    second_list::recvmode, false, "dak_app_sdp_encode_evrcb0:No fmtp/mline\n",
+    second_list::recvmode,
+    false,
+    "dak_app_sdp_encode_evrcb0:No fmtp/mline\n",
     "dak_app_sdp_decode_evrcb0:No fmtp/parsed                                                    media\n",
-    "dak_app_sdp_encode_evrcb0:No EVRC mode\n", "", invalid_evrcb_mode};
+    "dak_app_sdp_encode_evrcb0:No EVRC mode\n",
+    "",
+    invalid_evrcb_mode};
 constexpr evrc_member evrcb1 = {
-    second_list::none, false, "dak_app_sdp_encode_evrcb1:No fmtp/mline\n",
-    "dak_app_sdp_decode_evrcb1:No fmtp/parsed                                                    media\n", "", "", ""};
+    second_list::none,
+    false,
+    "dak_app_sdp_encode_evrcb1:No fmtp/mline\n",
+    "dak_app_sdp_decode_evrcb1:No fmtp/parsed                                                    media\n",
+    "",
+    "",
+    ""};
 constexpr evrc_member evrcwb = {
-    second_list::mode_set_recv, false, "dak_app_sdp_encode_evrcwb:No fmtp/mline\n",
+    second_list::mode_set_recv,
+    false,
+    "dak_app_sdp_encode_evrcwb:No fmtp/mline\n",
     "dak_app_sdp_decode_evrcwb:No fmtp/parsed                                                    media\n",
     "dak_app_sdp_encode_evrcwb:No EVRC mode\n",
-    "dak_app_sdp_encode_evrcwb:Invalid Maxinterleave                                   info\n", invalid_evrcwb_mode};
+    "dak_app_sdp_encode_evrcwb:Invalid Maxinterleave                                   info\n",
+    invalid_evrcwb_mode};
 constexpr evrc_member evrcwb0 = {
-    second_list::mode_set_recv, false, "dak_app_sdp_encode_evrcwb0:No fmtp/mline\n",
+    second_list::mode_set_recv,
+    false,
+    "dak_app_sdp_encode_evrcwb0:No fmtp/mline\n",
     "dak_app_sdp_decode_evrcwb0:No fmtp/parsed                                                    media\n",
-    "dak_app_sdp_encode_evrcwb0:No EVRC mode\n", "", invalid_evrcwb_mode};
+    "dak_app_sdp_encode_evrcwb0:No EVRC mode\n",
+    "",
+    invalid_evrcwb_mode};
 constexpr evrc_member evrcwb1 = {
-    second_list::mode_set_recv, false, "dak_app_sdp_encode_evrcwb1:No fmtp/mline\n",
+    second_list::mode_set_recv,
+    false,
+    "dak_app_sdp_encode_evrcwb1:No fmtp/mline\n",
     "dak_app_sdp_decode_evrcwb1:No fmtp/parsed                                                    media\n",
-    "dak_app_sdp_encode_evrcwb1:No EVRC mode\n", "", invalid_evrcwb_mode};
+    "dak_app_sdp_encode_evrcwb1:No EVRC mode\n",
+    "",
+    invalid_evrcwb_mode};
 
 struct mode_field {
     uint8_t *is_present = nullptr;
@@ -224,7 +262,8 @@ uint32_t decode_mode_lists(const evrc_codec &codec)
     const char *text = text_of(codec, "mode-set-recv");
     if (text == nullptr)
         return SDP_OA_SUCCESS;
-    return dak_app_sdp_decode_evrc_mode(text, codec.block.mode_set_recv.is_present, codec.block.mode_set_recv.map);
+    return dak_app_sdp_decode_evrc_mode(text, codec.block.mode_set_recv.is_present,
+                                        codec.block.mode_set_recv.map);
 }
 
 uint32_t decode_fixedrate(const evrc_codec &codec)
@@ -271,14 +310,14 @@ uint32_t decode_block(const evrc_member &member, media_description *md, uint16_t
 
 } // namespace
 
-#define DAK_EVRC_EXPORTS(member, Block)                                                                               \
-    uint32_t dak_app_sdp_encode_##member(media_description *md, uint16_t codec_index, void *block)                    \
-    {                                                                                                                 \
-        return encode_block<Block>(member, md, codec_index, block);                                                   \
-    }                                                                                                                 \
-    uint32_t dak_app_sdp_decode_##member(media_description *md, uint16_t codec_index, void *block)                    \
-    {                                                                                                                 \
-        return decode_block<Block>(member, md, codec_index, block);                                                   \
+#define DAK_EVRC_EXPORTS(member, Block) \
+    uint32_t dak_app_sdp_encode_##member(media_description *md, uint16_t codec_index, void *block) \
+    { \
+        return encode_block<Block>(member, md, codec_index, block); \
+    } \
+    uint32_t dak_app_sdp_decode_##member(media_description *md, uint16_t codec_index, void *block) \
+    { \
+        return decode_block<Block>(member, md, codec_index, block); \
     }
 DAK_EVRC_EXPORTS(evrc, sdp_evrc_params)
 DAK_EVRC_EXPORTS(evrc0, sdp_evrc0_params)
@@ -321,7 +360,8 @@ uint32_t dak_app_sdp_decode_evrc_mode(const char *text, uint8_t *present, uint8_
     return result;
 }
 
-uint32_t dak_app_sdp_encode_evrc1_fixed_rate(media_description *md, uint16_t codec_index, sdp_fixedrate_part part)
+uint32_t dak_app_sdp_encode_evrc1_fixed_rate(media_description *md, uint16_t codec_index,
+                                             sdp_fixedrate_part part)
 {
     char rate[number_size];
     if (part.fixedrate_present == 0)
@@ -332,7 +372,8 @@ uint32_t dak_app_sdp_encode_evrc1_fixed_rate(media_description *md, uint16_t cod
     return set_media_value(md, codec_index, "fixedrate", rate) ? SDP_OA_SUCCESS : SDP_OA_INVALID_CONTENT;
 }
 
-uint32_t dak_app_sdp_decode_evrc1_fixed_rate(media_description *md, uint16_t codec_index, sdp_fixedrate_part *part)
+uint32_t dak_app_sdp_decode_evrc1_fixed_rate(media_description *md, uint16_t codec_index,
+                                             sdp_fixedrate_part *part)
 {
     if (md == nullptr || part == nullptr)
         return SDP_OA_BAD_PARAMETERS;
@@ -361,7 +402,9 @@ uint32_t dak_app_sdp_decode_conv_evrc1_rate(const char *text, uint32_t *rate)
     if (text == nullptr || rate == nullptr)
         return SDP_OA_BAD_PARAMETERS;
     const text_range value(text);
-    *rate = value.equals("0.5") ? SDP_EVRC_HALF_RATE : value.equals("1") ? SDP_EVRC_FULL_RATE : SDP_EVRC_INVALID_RATE;
+    *rate = value.equals("0.5") ? SDP_EVRC_HALF_RATE
+            : value.equals("1") ? SDP_EVRC_FULL_RATE
+                                : SDP_EVRC_INVALID_RATE;
     if (*rate != SDP_EVRC_INVALID_RATE)
         return SDP_OA_SUCCESS;
     DAK_LOG("Invalid evrcfixedrate");

@@ -72,8 +72,8 @@ int dak_app_sdp_encode_evrc_mode(char *out, uint8_t mode_map);
  * @param text terminated list separated by "," or ";"
  * @param[out] present 1, or 0 for an empty list or a mode that is no digit
  * @param[out] mode_map bit map of the modes read
- * @return 0; 1, with a log line, for more than 256 characters; 4, with a log line, for a mode above 7; 7, with
- *         a log line, for null
+ * @return 0; 1, with a log line, for more than 256 characters; 4, with a log line, for a mode above 7; 7,
+ * with a log line, for null
  */
 uint32_t dak_app_sdp_decode_evrc_mode(const char *text, uint8_t *present, uint8_t *mode_map);
 
@@ -84,7 +84,8 @@ uint32_t dak_app_sdp_decode_evrc_mode(const char *text, uint8_t *present, uint8_
  * @param part the block's fixed-rate fields
  * @return 0; 4, with a log line for an invalid rate, when it is refused
  */
-uint32_t dak_app_sdp_encode_evrc1_fixed_rate(media_description *md, uint16_t codec_index, sdp_fixedrate_part part);
+uint32_t dak_app_sdp_encode_evrc1_fixed_rate(media_description *md, uint16_t codec_index,
+                                             sdp_fixedrate_part part);
 
 /**
  * Reads "fixedrate".
@@ -93,7 +94,8 @@ uint32_t dak_app_sdp_encode_evrc1_fixed_rate(media_description *md, uint16_t cod
  * @param[in,out] part the block's fixed-rate fields
  * @return 0; 3 for null; 4, with a log line, for a text other than "0.5" and "1"
  */
-uint32_t dak_app_sdp_decode_evrc1_fixed_rate(media_description *md, uint16_t codec_index, sdp_fixedrate_part *part);
+uint32_t dak_app_sdp_decode_evrc1_fixed_rate(media_description *md, uint16_t codec_index,
+                                             sdp_fixedrate_part *part);
 
 /**
  * Text of a fixed rate.

@@ -21,7 +21,8 @@ uint32_t set_value(media_description *md, uint16_t codec_index, const char *valu
 
 } // namespace
 
-uint32_t dak_app_sdp_set_int_inmline(media_description *md, uint16_t codec_index, int32_t value, const char *name)
+uint32_t dak_app_sdp_set_int_inmline(media_description *md, uint16_t codec_index, int32_t value,
+                                     const char *name)
 {
     built_text<number_size> text;
     if (!text.add_signed(value).fits())
@@ -34,11 +35,14 @@ uint32_t dak_app_sdp_set_string_inmline(media_description *md, uint16_t codec_in
                                         const char *name)
 {
     return set_value(md, codec_index, value, name,
-                     "dak_app_sdp_set_string_inmline:Invalid media                                                       info\n");
+                     "dak_app_sdp_set_string_inmline:Invalid media                                           "
+                     "            info\n");
 }
 
-uint32_t dak_app_sdp_set_bool_inmline(media_description *md, uint16_t codec_index, int32_t value, const char *name)
+uint32_t dak_app_sdp_set_bool_inmline(media_description *md, uint16_t codec_index, int32_t value,
+                                      const char *name)
 {
     return set_value(md, codec_index, value != 0 ? "1" : "0", name,
-                     "dak_app_sdp_set_bool_inmline:Invalid media                                                         value\n");
+                     "dak_app_sdp_set_bool_inmline:Invalid media                                             "
+                     "            value\n");
 }

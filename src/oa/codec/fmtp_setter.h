@@ -21,7 +21,8 @@ extern "C" {
  * @param name terminated parameter name
  * @return 0, or 4, with a log line, when the parameter is refused
  */
-uint32_t dak_app_sdp_set_int_inmline(media_description *md, uint16_t codec_index, int32_t value, const char *name);
+uint32_t dak_app_sdp_set_int_inmline(media_description *md, uint16_t codec_index, int32_t value,
+                                     const char *name);
 
 /**
  * Writes a text as it is.
@@ -42,7 +43,8 @@ uint32_t dak_app_sdp_set_string_inmline(media_description *md, uint16_t codec_in
  * @param name terminated parameter name
  * @return 0, or 4, with a log line, when the parameter is refused
  */
-uint32_t dak_app_sdp_set_bool_inmline(media_description *md, uint16_t codec_index, int32_t value, const char *name);
+uint32_t dak_app_sdp_set_bool_inmline(media_description *md, uint16_t codec_index, int32_t value,
+                                      const char *name);
 
 #ifdef __cplusplus
 }

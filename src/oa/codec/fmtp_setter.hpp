@@ -8,9 +8,8 @@
 
 namespace dak {
 
-class parameter_writer
-{
-  public:
+class parameter_writer {
+public:
     parameter_writer(media_description *md, uint16_t codec_index) : md_(md), codec_index_(codec_index) {}
 
     parameter_writer &integer(bool is_present, uint32_t value, const char *name)
@@ -33,7 +32,7 @@ class parameter_writer
     }
     uint32_t result() const { return result_; }
 
-  private:
+private:
     media_description *md_;
     uint16_t codec_index_;
     uint32_t result_ = SDP_OA_SUCCESS;

@@ -53,7 +53,11 @@ uint32_t unsigned_of(int16_t value) { return static_cast<uint32_t>(value); }
 built_text<list_size> custom_text(const h263_params &params)
 {
     built_text<list_size> text;
-    text.add_signed(params.custom_x).add(',').add_signed(params.custom_y).add(',').add_signed(params.custom_mpi);
+    text.add_signed(params.custom_x)
+        .add(',')
+        .add_signed(params.custom_y)
+        .add(',')
+        .add_signed(params.custom_mpi);
     return text;
 }
 
@@ -91,9 +95,8 @@ void write_options(parameter_writer &writer, const h263_params &params)
         .flag(params.hrd, 1, "HRD");
 }
 
-class h263_reader
-{
-  public:
+class h263_reader {
+public:
     h263_reader(media_description *md, uint16_t codec_index) : md_(md), codec_index_(codec_index) {}
 
     const char *text(const char *name) const { return get_media_value(md_, codec_index_, name); }
@@ -123,7 +126,7 @@ class h263_reader
             value = static_cast<uint32_t>(scanned);
     }
 
-  private:
+private:
     media_description *md_;
     uint16_t codec_index_;
 };
@@ -225,7 +228,8 @@ uint32_t dak_app_sdp_decode_h263_2000(media_description *md, uint16_t codec_inde
     return result;
 }
 
-uint32_t dak_app_sdp_encode_h263plus_params(media_description *md, uint16_t codec_index, const h263_params *params)
+uint32_t dak_app_sdp_encode_h263plus_params(media_description *md, uint16_t codec_index,
+                                            const h263_params *params)
 {
     if (md == nullptr || params == nullptr)
         return SDP_OA_NO_RTPMAP;

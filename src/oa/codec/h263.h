@@ -19,8 +19,8 @@ extern "C" {
  * @param md the media section
  * @param codec_index position of the payload format
  * @param[in,out] block an #sdp_h263_1998_params; its marker is set to 1 once all was written
- * @return 0; 1, with a log line, for more than 128 submodes; 3 for null; 4, with a log line, when a parameter is
- *         refused
+ * @return 0; 1, with a log line, for more than 128 submodes; 3 for null; 4, with a log line, when a parameter
+ * is refused
  */
 uint32_t dak_app_sdp_encode_h263_1998(media_description *md, uint16_t codec_index, void *block);
 
@@ -58,7 +58,8 @@ uint32_t dak_app_sdp_decode_h263_2000(media_description *md, uint16_t codec_inde
  * @param params the parameters
  * @return as dak_app_sdp_encode_h263_1998(), but 7 for null
  */
-uint32_t dak_app_sdp_encode_h263plus_params(media_description *md, uint16_t codec_index, const h263_params *params);
+uint32_t dak_app_sdp_encode_h263plus_params(media_description *md, uint16_t codec_index,
+                                            const h263_params *params);
 
 /**
  * Reads the parameters that both share.
@@ -73,7 +74,8 @@ uint32_t dak_app_sdp_decode_h263plus_params(media_description *md, uint16_t code
  * Reads the three numbers of "CUSTOM".
  * @param text terminated numbers separated by "," or ";"
  * @param[out] params `custom_x`, `custom_y` and `custom_mpi`, as far as they could be read
- * @return 0; 1, with a log line, for 256 characters or more; 3, with a log line, for null; 6 for fewer numbers
+ * @return 0; 1, with a log line, for 256 characters or more; 3, with a log line, for null; 6 for fewer
+ * numbers
  */
 uint32_t dak_app_sdp_parse_h263_custom_param(const char *text, h263_params *params);
 

@@ -19,9 +19,8 @@ struct terminated_text {
     explicit terminated_text(const char (&field)[text_size]) { copy_text(text, field_text(field)); }
 };
 
-class h264_reader
-{
-  public:
+class h264_reader {
+public:
     h264_reader(media_description *md, uint16_t codec_index) : md_(md), codec_index_(codec_index) {}
 
     void text(const char *name, uint8_t &is_present, uint16_t &length, char (&field)[text_size]) const
@@ -59,7 +58,7 @@ class h264_reader
             field = static_cast<uint8_t>(*found);
     }
 
-  private:
+private:
     const char *value(const char *name) const { return get_media_value(md_, codec_index_, name); }
 
     media_description *md_;
@@ -81,8 +80,11 @@ uint32_t dak_app_sdp_encode_h264(media_description *md, uint16_t codec_index, vo
     const terminated_text sets(h264.sprop_parameter_sets);
     const terminated_text level_sets(h264.sprop_level_parameter_sets);
     parameter_writer writer(md, codec_index);
-    writer.integer(h264.packetization_mode_present, static_cast<uint32_t>(h264.packetization_mode), "packetization-mode")
-        .integer(h264.sprop_deint_buf_req_present, static_cast<uint32_t>(h264.sprop_deint_buf_req), "sprop-deint-buf-req")
+    writer
+        .integer(h264.packetization_mode_present, static_cast<uint32_t>(h264.packetization_mode),
+                 "packetization-mode")
+        .integer(h264.sprop_deint_buf_req_present, static_cast<uint32_t>(h264.sprop_deint_buf_req),
+                 "sprop-deint-buf-req")
         .text(h264.profile_level_id_present, profile.text, "profile-level-id")
         .text(h264.sprop_parameter_sets_present, sets.text, "sprop-parameter-sets")
         .text(h264.sprop_level_parameter_sets_present, level_sets.text, "sprop-level-parameter-sets")
@@ -107,7 +109,8 @@ uint32_t dak_app_sdp_decode_h264(media_description *md, uint16_t codec_index, vo
     h264.fmtp_present = 1;
     h264.h264_params_valid = 1;
     const h264_reader reader(md, codec_index);
-    reader.text("profile-level-id", h264.profile_level_id_present, h264.profile_level_id_len, h264.profile_level_id);
+    reader.text("profile-level-id", h264.profile_level_id_present, h264.profile_level_id_len,
+                h264.profile_level_id);
     reader.text("sprop-parameter-sets", h264.sprop_parameter_sets_present, h264.sprop_parameter_sets_len,
                 h264.sprop_parameter_sets);
     reader.text("sprop-level-parameter-sets", h264.sprop_level_parameter_sets_present,
@@ -117,7 +120,8 @@ uint32_t dak_app_sdp_decode_h264(media_description *md, uint16_t codec_index, vo
     reader.count("max-rcmd-nalu-size", h264.max_rcmd_nalu_size_present, h264.max_rcmd_nalu_size);
     reader.character("sar-understood", h264.sar_understood_present, h264.sar_understood);
     reader.character("sar-supported", h264.sar_supported_present, h264.sar_supported);
-    reader.character("in-band-parameter-sets", h264.in_band_parameter_sets_present, h264.in_band_parameter_sets);
+    reader.character("in-band-parameter-sets", h264.in_band_parameter_sets_present,
+                     h264.in_band_parameter_sets);
     reader.character("parameter-add", h264.parameter_add_present, h264.parameter_add);
     reader.character("use-level-src-parameter-sets", h264.use_level_src_parameter_sets_present,
                      h264.use_level_src_parameter_sets);

@@ -22,7 +22,8 @@ extern "C" {
  * @param md the media section
  * @param codec_index position of the payload format
  * @param block that codec's parameter block
- * @return 0; 1 a value does not fit, 3 null, 4 an invalid value or one that is refused, 7 a parameter not taken
+ * @return 0; 1 a value does not fit, 3 null, 4 an invalid value or one that is refused, 7 a parameter not
+ * taken
  */
 typedef uint32_t (*dak_app_sdp_codec_fn)(media_description *md, uint16_t codec_index, void *block);
 
@@ -34,7 +35,8 @@ typedef struct sdp_mime_entry {
     dak_app_sdp_codec_fn decode; /**< parameters to block; may be null */
 } sdp_mime_entry;
 
-/** The codecs. Look-ups take the first row that matches: "telephone-event" is 105 by name, 112 by key alone. */
+/** The codecs. Look-ups take the first row that matches: "telephone-event" is 105 by name, 112 by key alone.
+ */
 extern const sdp_mime_entry mime_table[MIME_TABLE_ROWS];
 
 /**

@@ -20,8 +20,9 @@ struct mode_list_rule {
 // Adds modes 0 to 7 of a map; gives the mode that did not fit, or -1.
 int add_modes(mode_text &list, uint32_t mode_map);
 
-// Reads a list: one digit a token, further modes than the rule's most ignored. `is_present` becomes 1 unless a
-// token could not be read or there is none. Gives 0; 1 for too long a text, 4 for too high a mode, both logged.
+// Reads a list: one digit a token, further modes than the rule's most ignored. `is_present` becomes 1 unless
+// a token could not be read or there is none. Gives 0; 1 for too long a text, 4 for too high a mode, both
+// logged.
 uint32_t read_modes(const char *text, const mode_list_rule &rule, uint8_t &is_present, uint32_t &mode_map);
 
 } // namespace dak

@@ -25,12 +25,14 @@ uint32_t encode_config(media_description *md, uint16_t codec_index, const sdp_mp
 {
     heap_text text((size_t{mp4.config_len} + 1) * 2);
     if (!text.is_allocated()) {
-        DAK_LOG("dak_app_sdp_encode_mp4_es:Malloc failed at                                     config string \n");
+        DAK_LOG("dak_app_sdp_encode_mp4_es:Malloc failed at                                     config "
+                "string \n");
         return SDP_OA_NO_MEMORY;
     }
     for (size_t i = 0; i < mp4.config_len && i < config_size; i++) {
         if (!add_octet(text, mp4.config[i])) {
-            DAK_LOG("len of str printed exceeded dst str len %lu \n", static_cast<unsigned long>(text.size()));
+            DAK_LOG("len of str printed exceeded dst str len %lu \n",
+                    static_cast<unsigned long>(text.size()));
             dak_assert_failed();
             return SDP_OA_TOO_LONG;
         }
@@ -70,7 +72,8 @@ uint32_t dak_app_sdp_encode_mp4_es(media_description *md, uint16_t codec_index, 
     if (mp4.fmtp_present == 0)
         return SDP_OA_SUCCESS;
     parameter_writer writer(md, codec_index);
-    writer.integer(mp4.profile_level_id_present, static_cast<uint32_t>(mp4.profile_level_id), "profile-level-id");
+    writer.integer(mp4.profile_level_id_present, static_cast<uint32_t>(mp4.profile_level_id),
+                   "profile-level-id");
     if (writer.result() != SDP_OA_SUCCESS || mp4.config_present == 0)
         return writer.result();
     return encode_config(md, codec_index, mp4);

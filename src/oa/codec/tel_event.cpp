@@ -34,8 +34,9 @@ uint32_t add_entry(event_list &list, const sdp_tel_event_entry &entry)
     } else if (entry.kind == SDP_TEL_EVENT_RANGE) {
         add_range(list, entry);
     } else {
-        DAK_LOG("dak_app_sdp_encode_dtmf_tel_event_tag :                               Invalid event range: %d ",
-                static_cast<int>(entry.kind));
+        DAK_LOG(
+            "dak_app_sdp_encode_dtmf_tel_event_tag :                               Invalid event range: %d ",
+            static_cast<int>(entry.kind));
         return SDP_OA_INVALID_CONTENT;
     }
     if (list.fits())
@@ -48,7 +49,8 @@ bool read_range(text_range token, sdp_tel_event_entry &entry)
 {
     constexpr const char *hyphen = "-";
     sdp_tel_event_entry range = {SDP_TEL_EVENT_RANGE, 0, 0};
-    if (!scan_unsigned(token.take_token(hyphen), range.first) || !scan_unsigned(token.take_token(hyphen), range.last))
+    if (!scan_unsigned(token.take_token(hyphen), range.first) ||
+        !scan_unsigned(token.take_token(hyphen), range.last))
         return false;
     entry = range;
     return true;
@@ -142,7 +144,8 @@ uint32_t dak_app_oa_get_dtmf_tel_event(const char *text, sdp_tel_event_entry *ev
             return SDP_OA_SUCCESS;
         if (events[i].kind == SDP_TEL_EVENT_RANGE && events[i].first > events[i].last) {
             events[i].kind = SDP_TEL_EVENT_END;
-            DAK_LOG("dak_app_oa_get_dtmf_tel_event:Invalid DTMF..                                               events\n");
+            DAK_LOG("dak_app_oa_get_dtmf_tel_event:Invalid DTMF..                                            "
+                    "   events\n");
             return SDP_OA_INVALID_CONTENT;
         }
     }
