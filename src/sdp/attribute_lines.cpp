@@ -158,8 +158,8 @@ void dak_sdp_get_session_attribute_value_by_index(sdp_lib_context *context, int 
     if (has_first && index == 0)
         read_first_word(document->values[attribute_slot], value);
     else
-        dak_sdp_get_attribute_value_by_index(document->extra_values[attribute_slot], name, index - has_first,
-                                             value);
+        dak_sdp_get_attribute_value_by_index(document->extra_values[attribute_slot], name,
+                                             has_first && index > 0 ? index - 1 : index, value);
 }
 
 int dak_sdp_get_number_of_media_attribute_values(const media_description *description, const char *name)

@@ -122,8 +122,9 @@ int get_media_rtcp_ip_address(const char **position, const char *end, rtcp_addre
     address->address_type = address_type_of(address_type);
     if (address->address_type == SDP_ADDRESS_OTHER)
         return RTCP_ADDRESS_WRONG_TYPE;
-    const int result = read_address(*address, rest.take_word());
+    const text_range word = rest.take_word();
+    const int result = read_address(*address, word);
     if (address->valid)
-        *position = rest.first;
+        *position = word.last;
     return result;
 }

@@ -38,7 +38,7 @@ void get_rtcp_ipaddress(rtcp_address_info *destination, const media_description 
 /**
  * Reads an a=rtcp line. The port is read even when the address behind it is incomplete.
  * @param line_start first character of the line
- * @param line_end one past its last character
+ * @param line_end its terminator; must be readable
  * @param[out] port the port
  * @param[out] address the address as far as it could be read
  * @return 1; 0, with an assertion report, for null, no port or nothing behind it
