@@ -235,7 +235,7 @@ int32_t dak_sdp_get_message_num_of_file_selectors_attrs(const media_description 
 /**
  * Copies one file-selector record out.
  * @param[out] out the record; all zero, with a log line, for null, and, with an assertion report, for a
- *             position outside 0 to 4
+ *         position outside 0 to 4
  * @param description the media section
  * @param index position of the selector
  */

@@ -59,7 +59,7 @@ int dak_sdp_encode_max_size_attr(sdp_lib_context *context, media_description *de
  * @param line_start first character of the line
  * @param line_end its terminator; must be readable
  * @return 1 when read, or when ignored (logged) for its profile; 0, with a log line or an assertion report,
- * for null or a missing value
+ *         for null or a missing value
  */
 int dak_sdp_parse_a_equal_accept_type_line(media_description *description, const char *line_start,
                                            const char *line_end);
@@ -70,7 +70,7 @@ int dak_sdp_parse_a_equal_accept_type_line(media_description *description, const
  * @param line_start first character of the line
  * @param line_end its terminator; must be readable
  * @return 1 when read, or when ignored (logged) for its profile; 0, with a log line or an assertion report,
- * for null or a missing value
+ *         for null or a missing value
  */
 int dak_sdp_parse_a_equal_accept_wrapped_type_line(media_description *description, const char *line_start,
                                                    const char *line_end);
@@ -82,7 +82,7 @@ int dak_sdp_parse_a_equal_accept_wrapped_type_line(media_description *descriptio
  * @param line_start first character of the line
  * @param line_end its terminator; must be readable
  * @return 1 when read, or when ignored (logged) for its profile; 0, with a log line or an assertion report,
- * for null or a missing value
+ *         for null or a missing value
  */
 int dak_sdp_parse_a_equal_path_line(media_description *description, const char *line_start,
                                     const char *line_end);
@@ -93,7 +93,7 @@ int dak_sdp_parse_a_equal_path_line(media_description *description, const char *
  * @param line_start first character of the line
  * @param line_end its terminator; must be readable
  * @return 1 when read, or when ignored (logged) for its profile; 0, with a log line or an assertion report,
- * for null or a missing value
+ *         for null or a missing value
  */
 int dak_sdp_parse_a_equal_max_size_line(media_description *description, const char *line_start,
                                         const char *line_end);

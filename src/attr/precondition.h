@@ -26,7 +26,7 @@ typedef enum pcd_attr_type {
  * @param description the media section
  * @param kind a #pcd_attr_type
  * @param value terminated text behind the attribute's colon, at most 199 characters. A longer one is refused
- *        with an assertion report, its cut text stays counted.
+ *         with an assertion report, its cut text stays counted.
  * @return 1; 0, with a log line, for null, an unknown kind, an eleventh entry or too long a value
  */
 int set_media_precond_attr(media_description *description, uint32_t kind, const char *value);

@@ -11,8 +11,8 @@
 #define MEDIA_INFO_MAX_SLOTS 25
 
 /**
- * Named fmtp parameters. Each codec kind uses the first so many slots; their order is the order on the
- * a=fmtp line.
+ * Named fmtp parameters. Each codec kind uses the first so many slots; their order is the order on the a=fmtp
+ * line.
  */
 typedef struct media_info {
     char param_name[MEDIA_INFO_MAX_SLOTS][200];   /**< name of each slot, fixed by the kind's initialiser */

@@ -17,12 +17,12 @@ extern "C" {
  * Stores a parameter of a payload format through the setter of its MIME type.
  * @param description the media section
  * @param index position of the payload format
- * @param name terminated name of at most 199 characters; "" for a value without a name, which
- *        telephone-event files under "events" and every other kind drops
+ * @param name terminated name of at most 199 characters; "" for a value without a name, which telephone-event
+ *         files under "events" and every other kind drops
  * @param value terminated value of at most 199 characters
  * @return 1 when stored or when the kind has no such parameter (logged); 0 when the MIME type is unknown or
  *         carries no parameters, and, with an assertion report, for null, a bad index or text that does not
- * fit
+ *         fit
  */
 int set_media_value(media_description *description, int index, const char *name, const char *value);
 

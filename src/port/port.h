@@ -42,8 +42,8 @@ void *dak_malloc(size_t size);
 void dak_free(void *block);
 
 /**
- * Takes the next token of a text, as a call of a series that keeps its place in `save`. Runs of
- * delimiters count as one; the delimiter behind a token is overwritten with a NUL.
+ * Takes the next token of a text, as a call of a series that keeps its place in `save`. Runs of delimiters
+ * count as one; the delimiter behind a token is overwritten with a NUL.
  *
  * @param text        the text at the first call, which is written to; null at the following ones
  * @param delimiters  the characters that end a token
@@ -53,8 +53,8 @@ void dak_free(void *block);
 char *dak_strtok(char *text, const char *delimiters, char **save);
 
 /**
- * Reports that an operation failed. It only reports: control returns to the caller, which then
- * returns its own failure value.
+ * Reports that an operation failed. It only reports: control returns to the caller, which then returns its
+ * own failure value.
  */
 void dak_assert_failed(void);
 

@@ -19,7 +19,7 @@ extern "C" {
  * @param name terminated name
  * @param value terminated value, or null for a property attribute
  * @return 1; 0, with an assertion report, for null, no memory or, with a log line too, a text of 200
- * characters or more, which is kept cut to 199
+ *         characters or more, which is kept cut to 199
  */
 int set_media_description_attribute(media_description *description, const char *name, const char *value);
 
@@ -48,7 +48,7 @@ int dak_encode_media_attribute(sdp_lib_context *context, media_description *desc
  * @param line_start first character of the line
  * @param line_end its terminator; must be readable
  * @return 1; 0, with a log line, when it has no name or cannot be stored; 0, with an assertion report, for
- * null
+ *         null
  */
 int parse_sdp_attribute(media_description *description, const char *line_start, const char *line_end);
 
@@ -66,7 +66,7 @@ int dak_sdp_get_number_of_attribute_values(const session_value *head, const char
  * @param name terminated name
  * @param index position among the attributes of that name, 0 to 255
  * @param[out] value 200 characters; unwritten when there is no such attribute or it has no value. Null is
- *             reported as an assertion, as for the other pointers.
+ *         reported as an assertion, as for the other pointers.
  */
 void dak_sdp_get_attribute_value_by_index(const session_value *head, const char *name, int index,
                                           char *value);

@@ -37,7 +37,7 @@ int clean_sdp_info_container(sdp_info_container *document);
  * @param document the document
  * @param description the media section
  * @return 1; 0, with an assertion report, for null, a document that has 30, or a section that is already
- * there
+ *         there
  */
 int add_media_description(sdp_info_container *document, media_description *description);
 

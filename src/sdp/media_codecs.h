@@ -62,7 +62,7 @@ int32_t get_media_codec_payload_number_by_index(const media_description *descrip
  * @param description the media section
  * @param index position of the payload format
  * @return the name, owned by the section; null without an a=rtpmap line and, with an assertion report, for
- * null or a position without a codec
+ *         null or a position without a codec
  */
 const char *get_media_codec_mime_type_by_index(const media_description *description, int index);
 

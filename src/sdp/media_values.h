@@ -28,7 +28,7 @@ int dak_sdp_set_media_value(media_description *description, const char *type, co
  * @param line_start first character of the line; blanks are skipped
  * @param line_end one past its last character
  * @return 1 when stored or dropped; 0, with an assertion report, for null or a value of more than 198
- * characters
+ *         characters
  */
 int parse_media_description_value(media_description *description, const char *line_start,
                                   const char *line_end);

@@ -21,11 +21,12 @@ extern "C" {
  * Reads SDP text into the parser document.
  * @param context the context; it stays releasable whatever the result
  * @param text SDP text; it ends at `length` characters or at the first NUL, whichever comes first, and is
- *        never written to
+ *         never written to
  * @param length characters of `text`, at most
  * @return 1; 0, with an assertion report, for null, empty text, an unknown or malformed session line, a
- * session value of more than 198 characters, a malformed m= line, a 21st payload number, a 31st media section
- * or no memory. What was read before a failure stays in the document.
+ *         session value of more than 198 characters, a malformed m= line, a 21st payload number, a 31st media
+ *         section or no memory for a session line or a media section. An attribute line for which there is no
+ *         memory is logged and skipped. What was read before a failure stays in the document.
  */
 int sdp_parse(sdp_lib_context *context, const char *text, uint32_t length);
 

@@ -56,7 +56,7 @@ enum { RTCP_ADDRESS_READ = 1, RTCP_ADDRESS_WRONG_TYPE = 4, RTCP_ADDRESS_MISSING 
  * @param[out] address zeroed, then filled as far as could be read; `valid` is 1 only for a whole address
  * @return 1 for a whole address, for one cut to 255 characters (logged) or for no words (logged); 4 for
  *         another network type than "IN" (logged) or another address type than "IP4" and "IP6"; 5 for a
- * missing word (logged); 0 for nothing but blanks and, with an assertion report, for null
+ *         missing word (logged); 0 for nothing but blanks and, with an assertion report, for null
  */
 int get_media_rtcp_ip_address(const char **position, const char *end, rtcp_address_info *address);
 

@@ -37,7 +37,7 @@ int set_session_value_by_sdp_container(sdp_info_container *document, const char 
  * @param line_start first character of the line; blanks are skipped
  * @param line_end one past its last character
  * @return 1 when stored; 0 for a line that begins "m="; 0, with an assertion report, for null, an unknown
- * line type, a value of more than 198 characters or no memory
+ *         line type, a value of more than 198 characters or no memory
  */
 int parse_session_value(sdp_info_container *document, const char *line_start, const char *line_end);
 
@@ -68,7 +68,7 @@ const char *get_particular_index_of_session_value(sdp_lib_context *context, int 
  * @param tag line type with its equals sign; leading blanks are skipped, case counts
  * @param position 0 for the first line of the type
  * @return the value, owned by the document; null when there is none and, with an assertion report, for null
- * or an unknown type
+ *         or an unknown type
  */
 const char *get_seesion_value_by_sdp_container(sdp_info_container *document, const char *tag, int position);
 
@@ -77,7 +77,7 @@ const char *get_seesion_value_by_sdp_container(sdp_info_container *document, con
  * @param head first node
  * @param position 1 for the head, 2 for the node behind it, ...
  * @return the node; null when the list ends before it or the position is 0 or negative. A null head gives
- * null.
+ *         null.
  */
 session_value *dak_sdp_traverse_list(session_value *head, int position);
 

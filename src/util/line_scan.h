@@ -57,9 +57,8 @@ const char *skip_to_line_term(const char *position, const char *end);
 int get_next_line(const char *position, const char *end, const char **line_start, const char **line_end);
 
 /**
- * Finds a character. The character at `end` is examined too, so `end` must be readable: callers pass a
- * line's terminator there, and a token without its delimiter then takes that terminator in and loses it to
- * trimming.
+ * Finds a character. The character at `end` is examined too, so `end` must be readable: callers pass a line's
+ * terminator there, and a token without its delimiter then takes that terminator in and loses it to trimming.
  * @param position where to start
  * @param end the last position to examine
  * @param character what to look for

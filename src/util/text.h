@@ -28,7 +28,7 @@ int create_string(char *destination, const char *source, uint32_t length);
  * @param source terminated text
  * @param size characters of `destination`, terminator included
  * @return length of `source`: `size` or more means that the copy was cut. 0, with an assertion report, for
- * null.
+ *         null.
  */
 size_t dak_strlcpy(char *destination, const char *source, size_t size);
 

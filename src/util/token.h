@@ -16,7 +16,7 @@ extern "C" {
  * @param end one past the last character; with a delimiter `end` itself must be readable
  * @param[out] token_start first character of the token
  * @param[out] token_end one past the token; `end` plus one when the delimiter is absent; unwritten when
- *             nothing but blanks is left
+ *         nothing but blanks is left
  * @param delimiter pointer to the character that ends the token, or null for white space
  * @return 1 if the token is not empty, else 0
  */
@@ -42,8 +42,8 @@ int get_type_and_value(const char *position, const char *end, char *type, char *
  * Reads the value behind a name.
  * @param line terminated text such as "ptime:20"
  * @param name the name; it matches as a case-sensitive prefix of the line
- * @param separator text whose first occurrence ends the name; the value starts one character behind its
- *        first character
+ * @param separator text whose first occurrence ends the name; the value starts one character behind its first
+ *         character
  * @param[out] destination 256 characters for the value; unwritten when the line holds no separator
  * @return 1 if the name matched; 0 if not, or, with a log line and an assertion report, if the value is
  *         longer than 255 characters

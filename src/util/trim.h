@@ -12,9 +12,9 @@ extern "C" {
 /**
  * Removes leading white characters.
  * @param string terminated text in a buffer of 200 characters. Text that would still be 200 characters or
- *        longer is cut to 199, with a log line and an assertion report.
+ *         longer is cut to 199, with a log line and an assertion report.
  * @return length of the text behind the white characters, before any cut; 0, with an assertion report, for
- * null
+ *         null
  */
 int dak_remove_leading_space(char *string);
 

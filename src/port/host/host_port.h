@@ -21,8 +21,8 @@ extern "C" {
 typedef void (*dak_host_log_sink)(int priority, const char *text, void *user);
 
 /**
- * Sends log lines to a sink. Lines go to stderr until then, ended with a newline where the
- * library's text has none.
+ * Sends log lines to a sink. Lines go to stderr until then, ended with a newline where the library's text has
+ * none.
  *
  * @param sink  called on the thread that logs; null restores stderr
  * @param user  handed to the sink
@@ -37,8 +37,8 @@ void dak_host_set_log_sink(dak_host_log_sink sink, void *user);
 typedef void (*dak_host_assert_hook)(void *user);
 
 /**
- * Sends failure reports to a hook. Without one they pass in silence: every failure also shows in
- * the result of the function that failed.
+ * Sends failure reports to a hook. Without one they pass in silence: every failure also shows in the result
+ * of the function that failed.
  *
  * @param hook  called on the thread that reports, and must return; null for none
  * @param user  handed to the hook
