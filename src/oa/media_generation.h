@@ -32,7 +32,7 @@ uint32_t dak_app_oa_encode_mlines(sdp_lib_context *document, sdp_container *cont
  * @param mline the media line
  * @return the section, to be handed to a document or released with clean_media_description(); null for null,
  *         another transport than RTP/AVP, RTP/AVPF and TCP/MSRP (logged), another media type than audio,
- * video and message, more than 20 formats or no memory
+ *         video and message, more than 20 formats or no memory
  */
 media_description *dak_app_oa_encode_common_media_line(const sdp_media_line *mline);
 

@@ -24,7 +24,7 @@ extern "C" {
  * @param document the context that holds the parser document
  * @param container the container; `mlines` is overwritten, and left alone for a body without media
  * @return 0; 2, with a log line, when memory runs out; 3, with a log line, for null; 4, with a log line, for
- * more than 20 media sections; 6, with a log line, for a missing one
+ *         more than 20 media sections; 6, with a log line, for a missing one
  */
 uint32_t dak_app_oa_parse_mlines(sdp_lib_context *document, sdp_container *container);
 

@@ -21,12 +21,12 @@ extern "C" {
  * it up after every call, whatever the result: a failure in the groups leaves the media lines allocated.
  * @param[out] container the caller's container; untouched for null or a capacity of 0, else cleared first
  * @param buffer the text; it ends at its capacity or at the first NUL, whichever comes first, and is never
- *        written to
+ *         written to
  * @return 0; 1, with a log line, for too long a value; 2, with a log line, when memory runs out; 3, with a
- * log line, for null, a missing o= line or no memory for a context; 4, with a log line, for a capacity of 0,
- *         an address that is not IN IP4 or IN IP6, 21 media lines or six groups; 5, with a log line, for an
- *         incomplete o= or c= line; 6, with a log line, for text that is no SDP or a v= line that is no
- * number; 7 for a session id or version that is no 64-bit number
+ *         log line, for null, a missing o= line or no memory for a context; 4, with a log line, for a
+ *         capacity of 0, an address that is not IN IP4 or IN IP6, 21 media lines or six groups; 5, with a log
+ *         line, for an incomplete o= or c= line; 6, with a log line, for text that is no SDP or a v= line
+ *         that is no number; 7 for a session id or version that is no 64-bit number
  */
 uint32_t dak_app_oa_parse_sdp(sdp_container *container, const sdp_payload_buffer *buffer);
 

@@ -27,7 +27,7 @@ uint32_t dak_app_oa_encode_pre_cond_str(char *text, const sdp_precondition *entr
  * @param value terminated text
  * @param[in,out] entry its `kind` is set already; a type other than "qos" is read as 0
  * @return 0; 1, with a log line, for 256 characters or more; 3, with a log line, for null; 4, with a log
- * line, for an unknown word or kind; 5, with a log line, for a missing status type or direction
+ *         line, for an unknown word or kind; 5, with a log line, for a missing status type or direction
  */
 uint32_t dak_app_oa_parse_pre_cond_str(const char *value, sdp_precondition *entry);
 

@@ -8,9 +8,8 @@
 namespace dak {
 
 // Owns `size` characters, empty at first; null inside when memory ran out.
-class heap_text
-{
-  public:
+class heap_text {
+public:
     explicit heap_text(size_t size) : text_(static_cast<char *>(dak_malloc(size))), size_(size)
     {
         if (text_ != nullptr && size_ > 0)
@@ -35,7 +34,7 @@ class heap_text
         return true;
     }
 
-  private:
+private:
     char *text_;
     size_t size_;
     size_t length_ = 0;

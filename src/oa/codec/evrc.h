@@ -73,7 +73,7 @@ int dak_app_sdp_encode_evrc_mode(char *out, uint8_t mode_map);
  * @param[out] present 1, or 0 for an empty list or a mode that is no digit
  * @param[out] mode_map bit map of the modes read
  * @return 0; 1, with a log line, for more than 256 characters; 4, with a log line, for a mode above 7; 7,
- * with a log line, for null
+ *         with a log line, for null
  */
 uint32_t dak_app_sdp_decode_evrc_mode(const char *text, uint8_t *present, uint8_t *mode_map);
 

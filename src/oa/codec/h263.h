@@ -20,7 +20,7 @@ extern "C" {
  * @param codec_index position of the payload format
  * @param[in,out] block an #sdp_h263_1998_params; its marker is set to 1 once all was written
  * @return 0; 1, with a log line, for more than 128 submodes; 3 for null; 4, with a log line, when a parameter
- * is refused
+ *         is refused
  */
 uint32_t dak_app_sdp_encode_h263_1998(media_description *md, uint16_t codec_index, void *block);
 
@@ -75,7 +75,7 @@ uint32_t dak_app_sdp_decode_h263plus_params(media_description *md, uint16_t code
  * @param text terminated numbers separated by "," or ";"
  * @param[out] params `custom_x`, `custom_y` and `custom_mpi`, as far as they could be read
  * @return 0; 1, with a log line, for 256 characters or more; 3, with a log line, for null; 6 for fewer
- * numbers
+ *         numbers
  */
 uint32_t dak_app_sdp_parse_h263_custom_param(const char *text, h263_params *params);
 

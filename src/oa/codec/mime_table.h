@@ -23,7 +23,7 @@ extern "C" {
  * @param codec_index position of the payload format
  * @param block that codec's parameter block
  * @return 0; 1 a value does not fit, 3 null, 4 an invalid value or one that is refused, 7 a parameter not
- * taken
+ *         taken
  */
 typedef uint32_t (*dak_app_sdp_codec_fn)(media_description *md, uint16_t codec_index, void *block);
 

@@ -20,7 +20,7 @@ extern "C" {
  * @param codec_index position of the payload format
  * @param block an #sdp_mp4_es_params
  * @return 0; 2, with a log line, when memory runs out; 3, with a log line, for null; 4, with a log line, when
- * a parameter is refused, as a config of more than 99 octets is
+ *         a parameter is refused, as a config of more than 99 octets is
  */
 uint32_t dak_app_sdp_encode_mp4_es(media_description *md, uint16_t codec_index, void *block);
 

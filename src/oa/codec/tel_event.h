@@ -38,7 +38,7 @@ uint32_t dak_app_sdp_decode_tel_event(media_description *md, uint16_t codec_inde
  * @param[out] out 256 characters
  * @param[out] count entries written; may be null
  * @return 0; 1, with a log line and an assertion report, for too long a list; 3, with a log line, for null;
- * 4, with a log line, for an entry of another kind than single event and range
+ *         4, with a log line, for an entry of another kind than single event and range
  */
 uint32_t dak_app_sdp_encode_dtmf_tel_event_tag(const sdp_tel_event_params *block, char *out, uint16_t *count);
 
