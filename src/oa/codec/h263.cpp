@@ -219,6 +219,9 @@ uint32_t dak_app_sdp_decode_h263_2000(media_description *md, uint16_t codec_inde
         return SDP_OA_NO_RTPMAP;
     auto &h263 = *static_cast<sdp_h263_2000_params *>(block);
     const h263_reader reader(md, codec_index);
+    h263.profile_present = 0;
+    h263.level_present = 0;
+    h263.interlace = 0;
     reader.number("profile", h263.profile_present, h263.profile);
     reader.number("level", h263.level_present, h263.level);
     reader.option("interlace", h263.interlace);

@@ -44,11 +44,12 @@ uint32_t add_entry(event_list &list, const sdp_tel_event_entry &entry)
     return fail_as_truncated(list_size);
 }
 
-// Reads "first-last"; false for a part that is missing or no number.
+// Reads "first-last"; false, with the entry cleared, for a part that is missing or no number.
 bool read_range(text_range token, sdp_tel_event_entry &entry)
 {
     constexpr const char *hyphen = "-";
     sdp_tel_event_entry range = {SDP_TEL_EVENT_RANGE, 0, 0};
+    entry = {};
     if (!scan_unsigned(token.take_token(hyphen), range.first) ||
         !scan_unsigned(token.take_token(hyphen), range.last))
         return false;
@@ -56,7 +57,7 @@ bool read_range(text_range token, sdp_tel_event_entry &entry)
     return true;
 }
 
-// Reads a token; false for one that is no event or range, with the entry left alone.
+// Reads a token; false for one that is no event or range.
 bool read_entry(text_range token, sdp_tel_event_entry &entry)
 {
     if (token.find('-') != nullptr)
@@ -140,6 +141,8 @@ uint32_t dak_app_oa_get_dtmf_tel_event(const char *text, sdp_tel_event_entry *ev
     }
     for (int i = 0; i < SDP_TEL_EVENT_ENTRIES; i++) {
         const text_range token = rest.take_token(delimiters);
+        if (token.length() >= list_size && token.find('-') != nullptr)
+            return log_long_value(list_size);
         if (token.empty() || !read_entry(token, events[i]))
             return SDP_OA_SUCCESS;
         if (events[i].kind == SDP_TEL_EVENT_RANGE && events[i].first > events[i].last) {
