@@ -76,8 +76,8 @@ int dak_app_oa_find_matching_plds(const sdp_media_line *a, const sdp_media_line 
     return is_found;
 }
 
-uint8_t dak_app_oa_find_all_matching_plds(const sdp_media_line *a, const sdp_media_line *b, uint16_t *a_indexes,
-                                          uint16_t *b_indexes, uint8_t by_codec)
+uint8_t dak_app_oa_find_all_matching_plds(const sdp_media_line *a, const sdp_media_line *b,
+                                          uint16_t *a_indexes, uint16_t *b_indexes, uint8_t by_codec)
 {
     if (!are_given(a, b, a_indexes, b_indexes))
         return 0;

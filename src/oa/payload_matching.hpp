@@ -18,7 +18,8 @@ inline int format_count(const sdp_media_line &mline)
 inline bool find_codec(const sdp_media_line &mline, int format, uint32_t &codec)
 {
     const bool is_mapped = mline.payload_numbers[format] >= first_mapped_payload;
-    codec = is_mapped ? mline.formats[format].codec_id : dak_app_oa_find_mime_by_pyld_num(mline.payload_numbers[format]);
+    codec = is_mapped ? mline.formats[format].codec_id
+                      : dak_app_oa_find_mime_by_pyld_num(mline.payload_numbers[format]);
     return !is_mapped || mline.formats[format].has_rtpmap != 0;
 }
 
@@ -26,8 +27,8 @@ inline bool find_codec(const sdp_media_line &mline, int format, uint32_t &codec)
 inline bool is_events_alone(const sdp_media_line &mline)
 {
     constexpr uint32_t telephone_event = 105;
-    return mline.num_formats == 1 && mline.media_type == SDP_MEDIA_AUDIO && mline.formats[0].has_rtpmap == 1 &&
-           mline.formats[0].codec_id == telephone_event;
+    return mline.num_formats == 1 && mline.media_type == SDP_MEDIA_AUDIO &&
+           mline.formats[0].has_rtpmap == 1 && mline.formats[0].codec_id == telephone_event;
 }
 
 } // namespace dak

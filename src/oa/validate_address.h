@@ -16,8 +16,8 @@ extern "C" {
 /**
  * Validates an address.
  * @param address the address
- * @return 0; 2, with a log line, for a network type that does not begin "IN", an address type other than IPv4 and
- *         IPv6 or an unterminated IPv4 text; 15, with a log line, for null
+ * @return 0; 2, with a log line, for a network type that does not begin "IN", an address type other than IPv4
+ *         and IPv6 or an unterminated IPv4 text; 15, with a log line, for null
  */
 uint32_t dak_app_oa_validate_ipaddress(const sdp_address *address);
 

@@ -76,13 +76,15 @@ uint32_t check_line(const sdp_container &answer, const sdp_container &offer, int
         DAK_LOG("validate_answer: Invalid profile for rtcp-fb %d\n", static_cast<int>(answered.transport));
         return SDP_INVALID_FEEDBACK;
     }
-    if (groups_in_use && offered.mid_present == 1 && (answered.mid_present != 1 || !have_same_mid(answered, offered)))
+    if (groups_in_use && offered.mid_present == 1 &&
+        (answered.mid_present != 1 || !have_same_mid(answered, offered)))
         return SDP_INVALID_MID;
     return SDP_VALID;
 }
 
 // Checks the lines that are not rejected, and tells whether there is one.
-uint32_t check_lines(const sdp_container &answer, const sdp_container &offer, bool groups_in_use, bool &is_accepted)
+uint32_t check_lines(const sdp_container &answer, const sdp_container &offer, bool groups_in_use,
+                     bool &is_accepted)
 {
     is_accepted = false;
     for (int i = 0; i < answer.num_mlines; i++) {

@@ -54,7 +54,8 @@ uint32_t check_connection(const answered_line &line)
     }
     if (line.answer.connection_present != 0)
         return SDP_VALID;
-    DAK_LOG("dak_app_oa_validate_initial_offer:Invalid mline-%d                   no c= line  \n", line.index);
+    DAK_LOG("dak_app_oa_validate_initial_offer:Invalid mline-%d                   no c= line  \n",
+            line.index);
     return SDP_NO_CONNECTION;
 }
 
@@ -142,14 +143,18 @@ uint32_t check_ptime(const answered_line &line)
     return SDP_ZERO_PTIME;
 }
 
-bool has_preconditions(const sdp_media_line &mline) { return mline.precond_present != 0 && mline.num_preconds != 0; }
+bool has_preconditions(const sdp_media_line &mline)
+{
+    return mline.precond_present != 0 && mline.num_preconds != 0;
+}
 
 uint32_t check_preconditions(const answered_line &line)
 {
     if (!has_preconditions(line.answered) || !has_preconditions(line.offered))
         return SDP_VALID;
-    return dak_app_oa_validate_ans_pcd(line.answered.num_preconds, line.answered.preconds, line.offered.num_preconds,
-                                       line.offered.preconds, line.offer_direction);
+    return dak_app_oa_validate_ans_pcd(line.answered.num_preconds, line.answered.preconds,
+                                       line.offered.num_preconds, line.offered.preconds,
+                                       line.offer_direction);
 }
 
 // In order; the first that fails decides.
@@ -161,7 +166,8 @@ constexpr uint32_t (*line_checks[])(const answered_line &) = {
 bool can_be_compared(const sdp_media_line *answer, const sdp_media_line *offer, uint32_t answer_format,
                      uint32_t offer_format, const char *null_params)
 {
-    if (answer != nullptr && offer != nullptr && answer_format < SDP_MAX_FORMATS && offer_format < SDP_MAX_FORMATS)
+    if (answer != nullptr && offer != nullptr && answer_format < SDP_MAX_FORMATS &&
+        offer_format < SDP_MAX_FORMATS)
         return true;
     log_text(null_params);
     return false;
@@ -197,7 +203,8 @@ uint32_t compare_events(const sdp_tel_event_params &answered, const sdp_tel_even
 
 } // namespace
 
-uint32_t dak_app_oa_validate_ans_mline(const sdp_container *answer, const sdp_container *offer, uint32_t mline_index)
+uint32_t dak_app_oa_validate_ans_mline(const sdp_container *answer, const sdp_container *offer,
+                                       uint32_t mline_index)
 {
     const sdp_media_line *answered = answer != nullptr ? find_mline(*answer, mline_index) : nullptr;
     const sdp_media_line *offered = offer != nullptr ? find_mline(*offer, mline_index) : nullptr;
@@ -206,7 +213,8 @@ uint32_t dak_app_oa_validate_ans_mline(const sdp_container *answer, const sdp_co
         return SDP_NULL_ARGUMENT;
     }
     if (answered->num_formats == 0 || answered->num_formats > SDP_MAX_FORMATS) {
-        DAK_LOG("dak_app_oa_validate_ans_mline: Invalid                             formants - No media formants \n");
+        DAK_LOG("dak_app_oa_validate_ans_mline: Invalid                             formants - No media "
+                "formants \n");
         return SDP_INVALID_FORMAT;
     }
     if (answered->port == 0)
@@ -225,9 +233,9 @@ uint32_t dak_app_oa_validate_ans_mline(const sdp_container *answer, const sdp_co
     return SDP_VALID;
 }
 
-uint32_t dak_app_oa_validate_ans_fmtp(const sdp_media_line *answer, const sdp_media_line *offer, uint32_t codec,
-                                      uint32_t answer_direction, uint32_t offer_direction, uint32_t answer_format,
-                                      uint32_t offer_format)
+uint32_t dak_app_oa_validate_ans_fmtp(const sdp_media_line *answer, const sdp_media_line *offer,
+                                      uint32_t codec, uint32_t answer_direction, uint32_t offer_direction,
+                                      uint32_t answer_format, uint32_t offer_format)
 {
     constexpr uint32_t telephone_event = 105;
     constexpr uint32_t other_telephone_event = 112;
@@ -240,10 +248,11 @@ uint32_t dak_app_oa_validate_ans_fmtp(const sdp_media_line *answer, const sdp_me
 }
 
 uint32_t dak_app_oa_validate_dtmf_ans_fmtp(const sdp_media_line *answer, const sdp_media_line *offer,
-                                           uint32_t answer_direction, uint32_t offer_direction, uint32_t answer_format,
-                                           uint32_t offer_format)
+                                           uint32_t answer_direction, uint32_t offer_direction,
+                                           uint32_t answer_format, uint32_t offer_format)
 {
-    if (!can_be_compared(answer, offer, answer_format, offer_format, "dak_app_oa_validate_dtmf_fmtp: Null params"))
+    if (!can_be_compared(answer, offer, answer_format, offer_format,
+                         "dak_app_oa_validate_dtmf_fmtp: Null params"))
         return SDP_NULL_ARGUMENT;
     const sdp_tel_event_params &answered = answer->formats[answer_format].params.tel_event;
     const sdp_tel_event_params &offered = offer->formats[offer_format].params.tel_event;

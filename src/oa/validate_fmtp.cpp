@@ -7,7 +7,7 @@ using namespace dak;
 
 namespace {
 
-constexpr uint32_t evrcwb_modes = 145;          // modes 0, 4 and 7
+constexpr uint32_t evrcwb_modes = 145;             // modes 0, 4 and 7
 constexpr uint32_t modes_without_fixed_rate = 144; // modes 4 and 7
 constexpr int enough_events = 16;
 
@@ -19,11 +19,13 @@ struct evrc_texts {
     const char *invalid_mode_set;
 };
 
-constexpr evrc_texts evrcb_texts = {"dak_app_oa_validate_evrcb_fmtp: Null params", " No EVRCB config ", nullptr, nullptr};
-constexpr evrc_texts evrcb0_texts = {"dak_app_oa_validate_evrcb0_fmtp: Null params", " No EVRCB0 config ", nullptr,
-                                     nullptr};
+constexpr evrc_texts evrcb_texts = {"dak_app_oa_validate_evrcb_fmtp: Null params", " No EVRCB config ",
+                                    nullptr, nullptr};
+constexpr evrc_texts evrcb0_texts = {"dak_app_oa_validate_evrcb0_fmtp: Null params", " No EVRCB0 config ",
+                                     nullptr, nullptr};
 constexpr evrc_texts evrcwb_texts = {"dak_app_oa_validate_evrcwb_fmtp: Null params", " No EVRCWB config ",
-                                     " Invalid sendmode for EVRCWB %d ", " Invalid modes for mode-set-recv for EVRCWB"};
+                                     " Invalid sendmode for EVRCWB %d ",
+                                     " Invalid modes for mode-set-recv for EVRCWB"};
 constexpr evrc_texts evrcwb0_texts = {"dak_app_oa_validate_evrcwb0_fmtp: Null params", " No EVRCWB0 config ",
                                       " Invalid sendmode for EVRCWB0 %d ",
                                       " Invalid modes for mode-set-recv for EVRCWB0"};
@@ -32,7 +34,8 @@ constexpr evrc_texts evrcwb1_texts = {"dak_app_oa_validate_evrcwb1_fmtp: Null pa
                                       " Invalid modes for mode-set-recv for EVRCWB1"};
 
 // The block of a format, or null, logged, where there is no such format.
-const sdp_codec_params *find_block(const sdp_media_line *mline, uint32_t format_index, const char *null_params)
+const sdp_codec_params *find_block(const sdp_media_line *mline, uint32_t format_index,
+                                   const char *null_params)
 {
     if (mline != nullptr && format_index < SDP_MAX_FORMATS)
         return &mline->formats[format_index].params;
@@ -54,8 +57,7 @@ void warn_of_sendmode(bool is_present, uint32_t direction)
         DAK_LOG(" sendmode used for recvonly stream ");
 }
 
-template <typename Block>
-uint32_t check_evrcb(const Block &evrc, uint32_t direction)
+template <typename Block> uint32_t check_evrcb(const Block &evrc, uint32_t direction)
 {
     warn_of_sendmode(evrc.sendmode_present, direction);
     if (evrc.recvmode_present != 0 && direction == SDP_SENDONLY)
@@ -80,7 +82,8 @@ uint32_t check_evrcwb(const Block &evrc, uint32_t direction, const evrc_texts &t
 
 uint32_t check_fixed_rate(const sdp_evrcwb1_params &evrc)
 {
-    if (evrc.sendmode_present == 0 || evrc.fixedrate_present != 1 || (evrc.sendmode & modes_without_fixed_rate) == 0)
+    if (evrc.sendmode_present == 0 || evrc.fixedrate_present != 1 ||
+        (evrc.sendmode & modes_without_fixed_rate) == 0)
         return SDP_VALID;
     DAK_LOG(" fixedrate not applicable for sendmode %d ", static_cast<int>(evrc.sendmode));
     return SDP_INVALID_FORMAT;
@@ -145,23 +148,28 @@ uint32_t dak_app_oa_validate_fmtp(uint32_t codec, uint32_t direction, uint32_t f
     return SDP_VALID;
 }
 
-uint32_t dak_app_oa_validate_evrcb_fmtp(uint32_t direction, uint32_t format_index, const sdp_media_line *mline)
+uint32_t dak_app_oa_validate_evrcb_fmtp(uint32_t direction, uint32_t format_index,
+                                        const sdp_media_line *mline)
 {
     const sdp_codec_params *params = find_block(mline, format_index, evrcb_texts.null_params);
     if (params == nullptr)
         return SDP_NULL_ARGUMENT;
-    return is_marked(*params, evrcb_texts.no_config) ? check_evrcb(params->evrcb, direction) : uint32_t{SDP_VALID};
+    return is_marked(*params, evrcb_texts.no_config) ? check_evrcb(params->evrcb, direction)
+                                                     : uint32_t{SDP_VALID};
 }
 
-uint32_t dak_app_oa_validate_evrcb0_fmtp(uint32_t direction, uint32_t format_index, const sdp_media_line *mline)
+uint32_t dak_app_oa_validate_evrcb0_fmtp(uint32_t direction, uint32_t format_index,
+                                         const sdp_media_line *mline)
 {
     const sdp_codec_params *params = find_block(mline, format_index, evrcb0_texts.null_params);
     if (params == nullptr)
         return SDP_NULL_ARGUMENT;
-    return is_marked(*params, evrcb0_texts.no_config) ? check_evrcb(params->evrcb0, direction) : uint32_t{SDP_VALID};
+    return is_marked(*params, evrcb0_texts.no_config) ? check_evrcb(params->evrcb0, direction)
+                                                      : uint32_t{SDP_VALID};
 }
 
-uint32_t dak_app_oa_validate_evrcwb_fmtp(uint32_t direction, uint32_t format_index, const sdp_media_line *mline)
+uint32_t dak_app_oa_validate_evrcwb_fmtp(uint32_t direction, uint32_t format_index,
+                                         const sdp_media_line *mline)
 {
     const sdp_codec_params *params = find_block(mline, format_index, evrcwb_texts.null_params);
     if (params == nullptr)
@@ -171,7 +179,8 @@ uint32_t dak_app_oa_validate_evrcwb_fmtp(uint32_t direction, uint32_t format_ind
     return check_evrcwb(params->evrcb, direction, evrcwb_texts);
 }
 
-uint32_t dak_app_oa_validate_evrcwb0_fmtp(uint32_t direction, uint32_t format_index, const sdp_media_line *mline)
+uint32_t dak_app_oa_validate_evrcwb0_fmtp(uint32_t direction, uint32_t format_index,
+                                          const sdp_media_line *mline)
 {
     const sdp_codec_params *params = find_block(mline, format_index, evrcwb0_texts.null_params);
     if (params == nullptr)
@@ -181,7 +190,8 @@ uint32_t dak_app_oa_validate_evrcwb0_fmtp(uint32_t direction, uint32_t format_in
     return check_evrcwb(params->evrcb0, direction, evrcwb0_texts);
 }
 
-uint32_t dak_app_oa_validate_evrcwb1_fmtp(uint32_t direction, uint32_t format_index, const sdp_media_line *mline)
+uint32_t dak_app_oa_validate_evrcwb1_fmtp(uint32_t direction, uint32_t format_index,
+                                          const sdp_media_line *mline)
 {
     const sdp_codec_params *params = find_block(mline, format_index, evrcwb1_texts.null_params);
     if (params == nullptr)
@@ -194,10 +204,12 @@ uint32_t dak_app_oa_validate_evrcwb1_fmtp(uint32_t direction, uint32_t format_in
 
 uint32_t dak_app_oa_validate_dtmf_fmtp(uint32_t direction, uint32_t format_index, const sdp_media_line *mline)
 {
-    const sdp_codec_params *params = find_block(mline, format_index, "dak_app_oa_validate_dtmf_fmtp: Null params");
+    const sdp_codec_params *params =
+        find_block(mline, format_index, "dak_app_oa_validate_dtmf_fmtp: Null params");
     if (params == nullptr)
         return SDP_NULL_ARGUMENT;
-    return is_marked(*params, " No DTMF config ") ? check_events(params->tel_event, direction) : uint32_t{SDP_VALID};
+    return is_marked(*params, " No DTMF config ") ? check_events(params->tel_event, direction)
+                                                  : uint32_t{SDP_VALID};
 }
 
 int dak_app_oa_form_dtmf_evt_list(const sdp_tel_event_params *block, uint16_t *events, uint8_t *num_events)

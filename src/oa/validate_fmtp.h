@@ -2,9 +2,9 @@
  * @file
  * Validation of codec parameters against the direction of their stream.
  *
- * A check takes the effective direction of the stream, the position of a format and its media line. It gives 0,
- * also, with a log line, for a block that decoding has not marked; 11, with a log line, for parameters that
- * exclude each other; 15, with a log line, for null or a position of 20 or more.
+ * A check takes the effective direction of the stream, the position of a format and its media line. It gives
+ * 0, also, with a log line, for a block that decoding has not marked; 11, with a log line, for parameters
+ * that exclude each other; 15, with a log line, for null or a position of 20 or more.
  */
 #ifndef DAKSDP_OA_VALIDATE_FMTP_H
 #define DAKSDP_OA_VALIDATE_FMTP_H
@@ -29,17 +29,23 @@ uint32_t dak_app_oa_validate_fmtp(uint32_t codec, uint32_t direction, uint32_t f
                                   const sdp_media_line *mline);
 
 /** Check of EVRCB; its findings are warnings. */
-uint32_t dak_app_oa_validate_evrcb_fmtp(uint32_t direction, uint32_t format_index, const sdp_media_line *mline);
+uint32_t dak_app_oa_validate_evrcb_fmtp(uint32_t direction, uint32_t format_index,
+                                        const sdp_media_line *mline);
 /** Check of EVRCB0; its findings are warnings. */
-uint32_t dak_app_oa_validate_evrcb0_fmtp(uint32_t direction, uint32_t format_index, const sdp_media_line *mline);
+uint32_t dak_app_oa_validate_evrcb0_fmtp(uint32_t direction, uint32_t format_index,
+                                         const sdp_media_line *mline);
 /** Check of EVRCWB; its findings are warnings. */
-uint32_t dak_app_oa_validate_evrcwb_fmtp(uint32_t direction, uint32_t format_index, const sdp_media_line *mline);
+uint32_t dak_app_oa_validate_evrcwb_fmtp(uint32_t direction, uint32_t format_index,
+                                         const sdp_media_line *mline);
 /** Check of EVRCWB0; its findings are warnings. */
-uint32_t dak_app_oa_validate_evrcwb0_fmtp(uint32_t direction, uint32_t format_index, const sdp_media_line *mline);
+uint32_t dak_app_oa_validate_evrcwb0_fmtp(uint32_t direction, uint32_t format_index,
+                                          const sdp_media_line *mline);
 /** Check of EVRCWB1: a fixed rate excludes the sendmodes 4 and 7. */
-uint32_t dak_app_oa_validate_evrcwb1_fmtp(uint32_t direction, uint32_t format_index, const sdp_media_line *mline);
+uint32_t dak_app_oa_validate_evrcwb1_fmtp(uint32_t direction, uint32_t format_index,
+                                          const sdp_media_line *mline);
 /** Check of telephone-event: a stream that receives needs an events list, and ranges must ascend. */
-uint32_t dak_app_oa_validate_dtmf_fmtp(uint32_t direction, uint32_t format_index, const sdp_media_line *mline);
+uint32_t dak_app_oa_validate_dtmf_fmtp(uint32_t direction, uint32_t format_index,
+                                       const sdp_media_line *mline);
 
 /** Event numbers that dak_app_oa_form_dtmf_evt_list() writes at most. */
 #define SDP_MAX_EVENTS 255

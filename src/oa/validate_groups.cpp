@@ -18,26 +18,32 @@ uint32_t media_type_at(const sdp_container &container, uint8_t index)
     return mline != nullptr ? mline->media_type : uint32_t{SDP_MEDIA_UNKNOWN};
 }
 
-bool is_audio_or_video(uint32_t media_type) { return media_type == SDP_MEDIA_AUDIO || media_type == SDP_MEDIA_VIDEO; }
+bool is_audio_or_video(uint32_t media_type)
+{
+    return media_type == SDP_MEDIA_AUDIO || media_type == SDP_MEDIA_VIDEO;
+}
 
 // Lip synchronisation joins one audio and one video line.
 uint32_t check_ls(const sdp_container &container, const sdp_group &group)
 {
     const int mids = group.num_mids;
     if (mids != 2) {
-        DAK_LOG("validate_group_semantics:Invalid params for LS          group semantic number of mids %d \n", mids);
+        DAK_LOG("validate_group_semantics:Invalid params for LS          group semantic number of mids %d \n",
+                mids);
         return SDP_INVALID_GROUP;
     }
     const uint32_t first = media_type_at(container, group.mline_index[0]);
     const uint32_t second = media_type_at(container, group.mline_index[1]);
     if (!is_audio_or_video(first) || !is_audio_or_video(second)) {
-        DAK_LOG("validate_group_semantics:Invalid params for LS          group semantic media1 %d, media2 %d no. of mids %d \n",
+        DAK_LOG("validate_group_semantics:Invalid params for LS          group semantic media1 %d, media2 %d "
+                "no. of mids %d \n",
                 static_cast<int>(first), static_cast<int>(second), mids);
         return SDP_INVALID_GROUP;
     }
     if (first != second)
         return SDP_VALID;
-    DAK_LOG("validate_group_semantics:Invalid params                for LS group semantic media %d, no. of mids %d\n",
+    DAK_LOG("validate_group_semantics:Invalid params                for LS group semantic media %d, no. of "
+            "mids %d\n",
             static_cast<int>(first), mids);
     return SDP_INVALID_GROUP;
 }
@@ -72,12 +78,15 @@ uint32_t check_same_port(const sdp_container &container, int first, int second)
         !copy_address(b_text, b_has_own ? b.connection : container.connection))
         return SDP_INVALID_GROUP;
     if (!a_has_own && !b_has_own) {
-        DAK_LOG("validate_group_semantics:Invalid param            for FID group semantic: streams have same IP %s\n", a_text);
+        DAK_LOG("validate_group_semantics:Invalid param            for FID group semantic: streams have same "
+                "IP %s\n",
+                a_text);
         return SDP_INVALID_GROUP;
     }
     if (strcmp(a_text, b_text) != 0)
         return SDP_VALID;
-    DAK_LOG("validate_group_semantics:Invalid param          for FID group semantic same ip for mlines %d n %d ip %s \n",
+    DAK_LOG("validate_group_semantics:Invalid param          for FID group semantic same ip for mlines %d n "
+            "%d ip %s \n",
             first, second, a_text);
     return SDP_INVALID_GROUP;
 }
@@ -114,7 +123,8 @@ uint32_t check_fid(const sdp_container &container, const sdp_group &group)
 }
 
 // Whether an earlier group of the same semantics has the media line too, present or not.
-bool is_in_earlier_group(const sdp_container &container, const sdp_group &group, uint32_t group_index, uint8_t index)
+bool is_in_earlier_group(const sdp_container &container, const sdp_group &group, uint32_t group_index,
+                         uint8_t index)
 {
     for (uint32_t i = 0; i < group_index && i < SDP_MAX_GROUPS; i++) {
         const sdp_group &earlier = container.groups[i];
@@ -129,11 +139,13 @@ uint32_t check_mid(const sdp_container &container, const sdp_group &group, uint3
     const uint8_t index = group.mline_index[position];
     const sdp_media_line *mline = find_mline(container, index);
     if (mline == nullptr || mline->port == 0) {
-        DAK_LOG("validate_offer_params:mline with          port = 0 in group mline %d \n", static_cast<int>(index));
+        DAK_LOG("validate_offer_params:mline with          port = 0 in group mline %d \n",
+                static_cast<int>(index));
         return SDP_INVALID_GROUP;
     }
     if (is_in_earlier_group(container, group, group_index, index)) {
-        DAK_LOG("validate_offer_params:mline used in              2 groups with same semantics mline %d semantics %d\n",
+        DAK_LOG("validate_offer_params:mline used in              2 groups with same semantics mline %d "
+                "semantics %d\n",
                 static_cast<int>(index), static_cast<int>(group.semantics));
         return SDP_INVALID_GROUP;
     }
@@ -160,7 +172,8 @@ uint32_t dak_app_oa_validate_group_semantics(const sdp_container *container, con
     return SDP_INVALID_GROUP;
 }
 
-uint32_t dak_app_oa_validate_group_mids(const sdp_container *container, const sdp_group *group, uint32_t group_index)
+uint32_t dak_app_oa_validate_group_mids(const sdp_container *container, const sdp_group *group,
+                                        uint32_t group_index)
 {
     if (container == nullptr || group == nullptr || lacks_mlines(*container)) {
         DAK_LOG("dak_app_oa_validate_group_mids: null                            params\n");

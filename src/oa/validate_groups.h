@@ -14,8 +14,8 @@ extern "C" {
 #endif
 
 /**
- * Validates the semantics of a group: LS joins one audio and one video line, FID joins lines of which no two share
- * port and address.
+ * Validates the semantics of a group: LS joins one audio and one video line, FID joins lines of which no two
+ * share port and address.
  * @param container the container
  * @param group one of its groups
  * @return 0; 7, with a log line, for anything else; 15, with a log line, for null or missing media lines
@@ -23,8 +23,8 @@ extern "C" {
 uint32_t dak_app_oa_validate_group_semantics(const sdp_container *container, const sdp_group *group);
 
 /**
- * Validates the media lines of a group: each has a port, stands in the group once and in no earlier group of the
- * same semantics.
+ * Validates the media lines of a group: each has a port, stands in the group once and in no earlier group of
+ * the same semantics.
  * @param container the container
  * @param group one of its groups
  * @param group_index its position among the container's groups

@@ -27,7 +27,8 @@ uint32_t check_format_count(const offered_line &line)
 {
     if (line.mline.num_formats != 0)
         return SDP_VALID;
-    DAK_LOG("dak_app_oa_validate_initial_offer:Invalid                 mline-%d no formats listed  \n", line.index);
+    DAK_LOG("dak_app_oa_validate_initial_offer:Invalid                 mline-%d no formats listed  \n",
+            line.index);
     return SDP_INVALID_MLINES;
 }
 
@@ -36,12 +37,14 @@ uint32_t check_connection(const offered_line &line)
     if (line.mline.connection_present != 0) {
         const uint32_t result = dak_app_oa_validate_ipaddress(&line.mline.connection);
         if (result != SDP_VALID)
-            DAK_LOG("dak_app_oa_validate_offer_params: Invalid IP -                for mline %d \n", line.index);
+            DAK_LOG("dak_app_oa_validate_offer_params: Invalid IP -                for mline %d \n",
+                    line.index);
         return result;
     }
     if (line.offer.connection_present != 0)
         return SDP_VALID;
-    DAK_LOG("dak_app_oa_validate_offer_params:Invalid                    mline-%d no c= line  \n", line.index);
+    DAK_LOG("dak_app_oa_validate_offer_params:Invalid                    mline-%d no c= line  \n",
+            line.index);
     return SDP_NO_CONNECTION;
 }
 
@@ -70,7 +73,9 @@ uint32_t check_format(const offered_line &line, int index)
 {
     uint32_t codec = SDP_UNKNOWN_CODEC;
     if (index >= SDP_MAX_FORMATS || !find_codec(line.mline, index, codec)) {
-        DAK_LOG("dak_app_oa_validate_offer_params: Invalid                                  media formant %d \n", index);
+        DAK_LOG(
+            "dak_app_oa_validate_offer_params: Invalid                                  media formant %d \n",
+            index);
         return SDP_INVALID_FORMAT;
     }
     const sdp_payload_format &format = line.mline.formats[index];
@@ -228,7 +233,8 @@ uint32_t check_change(const sdp_media_line &modified, const sdp_media_line &prev
         return SDP_VALID;
     built_text<sizeof modified.mid + 1> now;
     built_text<sizeof previous.mid + 1> before;
-    DAK_LOG("validate_modified_sdp:Mids in mod-offer dont         match with the prev-offer prev_tag %s mod_tag %s\n",
+    DAK_LOG("validate_modified_sdp:Mids in mod-offer dont         match with the prev-offer prev_tag %s "
+            "mod_tag %s\n",
             before.add(field_text(previous.mid)).c_str(), now.add(field_text(modified.mid)).c_str());
     return SDP_INVALID_MID;
 }
@@ -245,7 +251,8 @@ uint32_t dak_app_oa_validate_initial_offer(const sdp_container *offer)
         return SDP_NULL_ARGUMENT;
     }
     if (static_cast<int64_t>(offer->origin_session_version) >= lowest_invalid_version) {
-        DAK_LOG("dak_app_oa_validate_initial_offer: Invalid                                                    origin \n");
+        DAK_LOG("dak_app_oa_validate_initial_offer: Invalid                                                  "
+                "  origin \n");
         return SDP_INVALID_ORIGIN;
     }
     return dak_app_oa_validate_offer_params(offer);

@@ -34,7 +34,8 @@ struct status_counts {
 // Whether an entry makes a direction mandatory in which the stream does not flow.
 bool contradicts(const sdp_precondition &entry, uint32_t stream_direction)
 {
-    if (entry.kind != PCD_DES || entry.desired.strength != SDP_STRENGTH_MANDATORY || status_of(entry) != SDP_STATUS_LOCAL)
+    if (entry.kind != PCD_DES || entry.desired.strength != SDP_STRENGTH_MANDATORY ||
+        status_of(entry) != SDP_STATUS_LOCAL)
         return false;
     return (stream_direction == SDP_SENDONLY && direction_of(entry) == SDP_PRECOND_RECV) ||
            (stream_direction == SDP_RECVONLY && direction_of(entry) == SDP_PRECOND_SEND);

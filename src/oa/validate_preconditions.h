@@ -14,12 +14,12 @@ extern "C" {
 #endif
 
 /**
- * Tells whether the preconditions of an offered media line are complete: for each status type in use one current
- * and one or two desired entries.
+ * Tells whether the preconditions of an offered media line are complete: for each status type in use one
+ * current and one or two desired entries.
  * @param mline the media line
  * @param direction its effective direction
- * @return 0, also without preconditions; 14, mostly with a log line, for an invalid or incomplete set; 15, with a
- *         log line, for null
+ * @return 0, also without preconditions; 14, mostly with a log line, for an invalid or incomplete set; 15,
+ *         with a log line, for null
  */
 uint32_t dak_app_oa_validate_preconditions(const sdp_media_line *mline, uint32_t direction);
 
@@ -30,7 +30,8 @@ uint32_t dak_app_oa_validate_preconditions(const sdp_media_line *mline, uint32_t
  * @param offer_num entries of the offer
  * @param offer the offer's entries
  * @param offer_direction the offer's direction
- * @return 0; 14 for a strength or a current status that is not met; 15 for null or a list that cannot be tabulated
+ * @return 0; 14 for a strength or a current status that is not met; 15 for null or a list that cannot be
+ *         tabulated
  */
 uint32_t dak_app_oa_validate_ans_pcd(uint32_t ans_num, const sdp_precondition *ans, uint32_t offer_num,
                                      const sdp_precondition *offer, uint32_t offer_direction);
