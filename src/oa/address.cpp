@@ -51,7 +51,7 @@ uint32_t parse_address_text(text_range word, sdp_address &address)
     }
     if (copy_text(address.address, word))
         return SDP_OA_SUCCESS;
-    return log_truncation(sizeof address.address);
+    return fail_as_truncated(sizeof address.address);
 }
 
 } // namespace
@@ -71,7 +71,7 @@ uint32_t dak_app_oa_add_address_value(char *text, uint16_t capacity, const sdp_a
     if (append(text, capacity, types) && append(text, capacity, " ") &&
         append(text, capacity, field_text(address->address)))
         return SDP_OA_SUCCESS;
-    return log_truncation(capacity);
+    return fail_as_truncated(capacity);
 }
 
 uint32_t dak_app_oa_parse_address(char *text, sdp_address *address)

@@ -31,7 +31,7 @@ uint32_t encode_bandwidth(const sdp_bandwidth &bandwidth, Store store, Named nam
         }
         built_text<size> text;
         if (!text.add(modifier->text).add(':').add_number(entry.value).fits())
-            return log_truncation(size);
+            return fail_as_truncated(size);
         result = store(text.c_str()) ? SDP_OA_SUCCESS : SDP_OA_INVALID_CONTENT;
         if (result != SDP_OA_SUCCESS)
             DAK_LOG("dak_app_oa_encode_bw:Invalid BW info\n");
@@ -89,7 +89,7 @@ uint32_t parse_bandwidth(sdp_bandwidth &bandwidth, const bandwidth_reader &reade
         bandwidth.present = 1;
         const text_range text(value);
         if (text.length() >= size)
-            return log_long_value(size);
+            return fail_as_too_long(size);
         bool is_last = false;
         // Every line that was read fills an entry, so that the k-th is the first free one.
         const uint32_t result = read_bandwidth_entry(text, reader, bandwidth.entries[k], is_last);

@@ -98,7 +98,7 @@ uint32_t read_mid(const media_description *md, sdp_media_line &mline)
     mline.mid_present = 1;
     if (copy_text(mline.mid, value))
         return SDP_OA_SUCCESS;
-    return log_long_value(sizeof mline.mid);
+    return fail_as_too_long(sizeof mline.mid);
 }
 
 uint32_t read_feedback(const media_description *md, sdp_media_line &mline)

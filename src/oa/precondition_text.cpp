@@ -173,7 +173,7 @@ uint32_t dak_app_oa_parse_pre_cond_str(const char *value, sdp_precondition *entr
     }
     text_range rest(value);
     if (rest.length() >= text_size)
-        return log_truncation(text_size);
+        return fail_as_truncated(text_size);
     const text_range type = rest.take_token(delimiters);
     if (type.empty()) {
         DAK_LOG("dak_app_oa_parse_pre_cond_str :                           Invalid pcd type \n");

@@ -48,7 +48,7 @@ uint32_t add_number(heap_text &line, uint64_t number, const char *insufficient)
     }
     if (line.add(text) && line.add(" "))
         return SDP_OA_SUCCESS;
-    return log_truncation(origin_size);
+    return fail_as_truncated(origin_size);
 }
 
 uint32_t add_username(heap_text &line, const sdp_container &container)
@@ -61,7 +61,7 @@ uint32_t add_username(heap_text &line, const sdp_container &container)
     }
     if (line.add(username) && line.add(" "))
         return SDP_OA_SUCCESS;
-    return log_truncation(origin_size);
+    return fail_as_truncated(origin_size);
 }
 
 uint32_t build_origin(heap_text &line, const sdp_container &container)
@@ -99,7 +99,7 @@ uint32_t encode_text(sdp_lib_context *document, text_range value, const text_bui
         return SDP_OA_NO_MEMORY;
     }
     if (!text.add(value))
-        return log_truncation(text.size());
+        return fail_as_truncated(text.size());
     return store(document, builder.tag, text.c_str(), builder.refused);
 }
 
@@ -145,7 +145,7 @@ uint32_t build_group(attribute_text &text, const sdp_container &container, const
         text.add(' ').add(field_text(container.mlines[group.mline_index[i]].mid));
     if (text.fits())
         return SDP_OA_SUCCESS;
-    return log_truncation(attribute_size);
+    return fail_as_truncated(attribute_size);
 }
 
 uint32_t encode_groups(sdp_lib_context *document, const sdp_container &container, bool &is_refused)
@@ -299,7 +299,7 @@ uint32_t dak_app_oa_encode_time(sdp_lib_context *document, const sdp_container *
         return SDP_OA_SUCCESS;
     built_text<time_size> text;
     if (!text.add_number(container->start_time).add(' ').add_number(container->stop_time).fits())
-        return log_truncation(time_size);
+        return fail_as_truncated(time_size);
     return store(document, "t=", text.c_str(), "dak_app_oa_encode_time: Invalid time info\n");
 }
 
@@ -325,8 +325,10 @@ uint32_t dak_app_oa_encode_message_attr(sdp_lib_context *document, const sdp_con
     const sdp_media_line *mline = first_message_line(*container);
     if (mline == nullptr || mline->msg_attr_present == 0)
         return SDP_OA_SUCCESS;
-    if (static_cast<uint8_t>(mline->accept_types.present) == 0)
-        return log_truncation(attribute_size);
+    if (static_cast<uint8_t>(mline->accept_types.present) == 0) {
+        DAK_LOG("len of str printed exceeded dst str len%d \n", static_cast<int>(attribute_size));
+        return SDP_OA_TOO_LONG;
+    }
     attribute_text text;
     const uint32_t result = build_accept(text, *container, mline->accept_types);
     if (result != SDP_OA_SUCCESS)

@@ -39,6 +39,7 @@ uint32_t copy_value(heap_text &copy, const char *value, const char *no_memory)
     if (copy.add(value))
         return SDP_OA_SUCCESS;
     DAK_LOG("src str len exceeded dst str len %lu \n", static_cast<unsigned long>(copy.size()));
+    dak_assert_failed();
     return SDP_OA_TOO_LONG;
 }
 
@@ -66,7 +67,7 @@ uint32_t read_username(text_range word, sdp_container &container)
         return log_missing("dak_app_oa_parse_origin:No Origin info\n");
     if (copy_text(container.origin_username, word))
         return SDP_OA_SUCCESS;
-    return log_truncation(sizeof container.origin_username);
+    return fail_as_truncated(sizeof container.origin_username);
 }
 
 uint32_t read_origin(char *text, sdp_container &container)
@@ -95,14 +96,14 @@ uint32_t read_text(const char *value, uint8_t &is_present, char (&field)[text_si
     is_present = 1;
     if (copy_text(field, value))
         return SDP_OA_SUCCESS;
-    return log_long_value(text_size);
+    return fail_as_too_long(text_size);
 }
 
 uint32_t read_times(const char *value, sdp_container &container)
 {
     text_range rest(value);
     if (rest.length() >= text_size)
-        return log_long_value(text_size);
+        return fail_as_too_long(text_size);
     if (!scan_unsigned(rest, container.start_time)) {
         DAK_LOG("dak_app_oa_parse_time: Invalid Start Time                               Info: %lu\n",
                 static_cast<unsigned long>(container.start_time));

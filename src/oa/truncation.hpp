@@ -8,24 +8,18 @@
 namespace dak {
 
 // For text that is written.
-inline uint32_t log_truncation(size_t size)
-{
-    DAK_LOG("len of str printed exceeded dst str len%d \n", static_cast<int>(size));
-    return SDP_OA_TOO_LONG;
-}
-
-// For text that is written where the lower layer reports too.
 inline uint32_t fail_as_truncated(size_t size)
 {
-    log_truncation(size);
+    DAK_LOG("len of str printed exceeded dst str len%d \n", static_cast<int>(size));
     dak_assert_failed();
     return SDP_OA_TOO_LONG;
 }
 
 // For text that is read.
-inline uint32_t log_long_value(size_t size)
+inline uint32_t fail_as_too_long(size_t size)
 {
     DAK_LOG("src str len exceeded dst str len%d \n", static_cast<int>(size));
+    dak_assert_failed();
     return SDP_OA_TOO_LONG;
 }
 

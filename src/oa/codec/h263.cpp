@@ -168,7 +168,7 @@ uint32_t check_list(const char *text, const h263_params *params)
     }
     if (text_range(text).length() < list_size)
         return SDP_OA_SUCCESS;
-    return log_long_value(list_size);
+    return fail_as_too_long(list_size);
 }
 
 } // namespace

@@ -25,7 +25,7 @@ uint32_t read_modes(const char *text, const mode_list_rule &rule, uint8_t &is_pr
     constexpr const char *delimiters = ",;";
     text_range rest(text);
     if (rest.length() > longest) {
-        return log_long_value(longest + 1);
+        return fail_as_too_long(longest + 1);
     }
     is_present = 0;
     mode_map = 0;

@@ -137,12 +137,12 @@ uint32_t dak_app_oa_get_dtmf_tel_event(const char *text, sdp_tel_event_entry *ev
         return SDP_OA_INVALID_CONTENT;
     text_range rest(text);
     if (rest.length() > list_size) {
-        return log_long_value(list_size + 1);
+        return fail_as_too_long(list_size + 1);
     }
     for (int i = 0; i < SDP_TEL_EVENT_ENTRIES; i++) {
         const text_range token = rest.take_token(delimiters);
         if (token.length() >= list_size && token.find('-') != nullptr)
-            return log_long_value(list_size);
+            return fail_as_too_long(list_size);
         if (token.empty() || !read_entry(token, events[i]))
             return SDP_OA_SUCCESS;
         if (events[i].kind == SDP_TEL_EVENT_RANGE && events[i].first > events[i].last) {
