@@ -32,7 +32,7 @@ uint32_t dak_app_oa_validate_ipv4_addr(const char *address)
     }
     if (strnlen(address, size) < size)
         return SDP_VALID;
-    log_long_value(size);
+    fail_as_too_long(size);
     return SDP_INVALID_ADDRESS;
 }
 
