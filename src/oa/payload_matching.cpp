@@ -83,9 +83,12 @@ uint8_t dak_app_oa_find_all_matching_plds(const sdp_media_line *a, const sdp_med
         return 0;
     uint8_t count = 0;
     const bool is_known = visit_pairs(*a, *b, by_codec != 0, [&](int a_format, int b_format) {
-        a_indexes[count] = static_cast<uint16_t>(a_format);
-        b_indexes[count] = static_cast<uint16_t>(b_format);
-        return ++count < SDP_MAX_MATCHES;
+        if (count < SDP_MAX_MATCHES) {
+            a_indexes[count] = static_cast<uint16_t>(a_format);
+            b_indexes[count] = static_cast<uint16_t>(b_format);
+            count++;
+        }
+        return true; // a full list ends nothing: an unknown codec further on still voids it
     });
     if (!is_known)
         return 0;

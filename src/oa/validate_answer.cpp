@@ -90,6 +90,8 @@ uint32_t check_lines(const sdp_container &answer, const sdp_container &offer, bo
     for (int i = 0; i < answer.num_mlines; i++) {
         if (answer.mlines[i].port == 0)
             continue;
+        if (lacks_mlines(offer))
+            return fail_as_null();
         const uint32_t result = check_line(answer, offer, i, groups_in_use);
         if (result != SDP_VALID)
             return result;
@@ -171,7 +173,7 @@ uint32_t dak_app_oa_validate_answer(const sdp_container *answer, const sdp_conta
         if (result != SDP_VALID)
             return result;
     }
-    if (lacks_mlines(*answer) || lacks_mlines(*offer))
+    if (lacks_mlines(*answer))
         return fail_as_null();
     bool is_accepted = false;
     uint32_t result = check_lines(*answer, *offer, uses_groups(*answer), is_accepted);

@@ -15,7 +15,7 @@ extern "C" {
 #endif
 
 /**
- * Validates an answer. The first failure decides; each but one is logged.
+ * Validates an answer. The first failure decides and is logged, except for a mid.
  * @param answer the answer
  * @param offer the offer
  * @return 0; 2 for an address; 3 for a zero bandwidth; 4 without an origin in both; 5 for a wrong count of
@@ -26,7 +26,7 @@ extern "C" {
 uint32_t dak_app_oa_validate_answer(const sdp_container *answer, const sdp_container *offer);
 
 /**
- * Validates one media line of an answer. The first failure decides and is logged.
+ * Validates one media line of an answer. The first failure decides; all but those of preconditions are logged.
  * @param answer the answer
  * @param offer the offer
  * @param mline_index position of the line in both, 0 to 20

@@ -212,12 +212,13 @@ uint32_t dak_app_oa_validate_ans_mline(const sdp_container *answer, const sdp_co
         DAK_LOG("dak_app_oa_validate_ans_mline: Null params \n");
         return SDP_NULL_ARGUMENT;
     }
-    if (answered->num_formats == 0 || answered->num_formats > SDP_MAX_FORMATS) {
-        DAK_LOG("dak_app_oa_validate_ans_mline: Invalid                             formants - No media "
-                "formants \n");
+    const bool is_rejected = answered->port == 0;
+    if (answered->num_formats == 0 || (!is_rejected && answered->num_formats > SDP_MAX_FORMATS)) {
+        DAK_LOG(
+            "dak_app_oa_validate_ans_mline: Invalid                             formants - No media formants \n");
         return SDP_INVALID_FORMAT;
     }
-    if (answered->port == 0)
+    if (is_rejected)
         return SDP_VALID;
     const answered_line line = {*answer,
                                 *answered,

@@ -23,6 +23,12 @@ bool is_audio_or_video(uint32_t media_type)
     return media_type == SDP_MEDIA_AUDIO || media_type == SDP_MEDIA_VIDEO;
 }
 
+uint32_t fail_as_null()
+{
+    DAK_LOG("dak_app_oa_validate_group_semantics: null                            params\n");
+    return SDP_NULL_ARGUMENT;
+}
+
 // Lip synchronisation joins one audio and one video line.
 uint32_t check_ls(const sdp_container &container, const sdp_group &group)
 {
@@ -32,19 +38,21 @@ uint32_t check_ls(const sdp_container &container, const sdp_group &group)
                 mids);
         return SDP_INVALID_GROUP;
     }
+    if (lacks_mlines(container))
+        return fail_as_null();
     const uint32_t first = media_type_at(container, group.mline_index[0]);
     const uint32_t second = media_type_at(container, group.mline_index[1]);
     if (!is_audio_or_video(first) || !is_audio_or_video(second)) {
-        DAK_LOG("validate_group_semantics:Invalid params for LS          group semantic media1 %d, media2 %d "
-                "no. of mids %d \n",
-                static_cast<int>(first), static_cast<int>(second), mids);
+        DAK_LOG(
+            "validate_group_semantics:Invalid params for LS          group semantic media1 %d, media2 %d no. of mids %d \n",
+            static_cast<int>(first), static_cast<int>(second), mids);
         return SDP_INVALID_GROUP;
     }
     if (first != second)
         return SDP_VALID;
-    DAK_LOG("validate_group_semantics:Invalid params                for LS group semantic media %d, no. of "
-            "mids %d\n",
-            static_cast<int>(first), mids);
+    DAK_LOG(
+        "validate_group_semantics:Invalid params                for LS group semantic media %d, no. of mids %d\n",
+        static_cast<int>(first), mids);
     return SDP_INVALID_GROUP;
 }
 
@@ -78,16 +86,16 @@ uint32_t check_same_port(const sdp_container &container, int first, int second)
         !copy_address(b_text, b_has_own ? b.connection : container.connection))
         return SDP_INVALID_GROUP;
     if (!a_has_own && !b_has_own) {
-        DAK_LOG("validate_group_semantics:Invalid param            for FID group semantic: streams have same "
-                "IP %s\n",
-                a_text);
+        DAK_LOG(
+            "validate_group_semantics:Invalid param            for FID group semantic: streams have same IP %s\n",
+            a_text);
         return SDP_INVALID_GROUP;
     }
     if (strcmp(a_text, b_text) != 0)
         return SDP_VALID;
-    DAK_LOG("validate_group_semantics:Invalid param          for FID group semantic same ip for mlines %d n "
-            "%d ip %s \n",
-            first, second, a_text);
+    DAK_LOG(
+        "validate_group_semantics:Invalid param          for FID group semantic same ip for mlines %d n %d ip %s \n",
+        first, second, a_text);
     return SDP_INVALID_GROUP;
 }
 
@@ -110,6 +118,8 @@ uint32_t check_fid(const sdp_container &container, const sdp_group &group)
 {
     if (group.num_mids < 2)
         return SDP_VALID;
+    if (lacks_mlines(container))
+        return fail_as_null();
     if (group.num_mids > SDP_MAX_GROUP_MIDS)
         return fail_as_fid();
     for (int i = 0; i < group.num_mids; i++) {
@@ -144,9 +154,9 @@ uint32_t check_mid(const sdp_container &container, const sdp_group &group, uint3
         return SDP_INVALID_GROUP;
     }
     if (is_in_earlier_group(container, group, group_index, index)) {
-        DAK_LOG("validate_offer_params:mline used in              2 groups with same semantics mline %d "
-                "semantics %d\n",
-                static_cast<int>(index), static_cast<int>(group.semantics));
+        DAK_LOG(
+            "validate_offer_params:mline used in              2 groups with same semantics mline %d semantics %d\n",
+            static_cast<int>(index), static_cast<int>(group.semantics));
         return SDP_INVALID_GROUP;
     }
     if (lists_mline(group, position, index)) {
@@ -160,10 +170,8 @@ uint32_t check_mid(const sdp_container &container, const sdp_group &group, uint3
 
 uint32_t dak_app_oa_validate_group_semantics(const sdp_container *container, const sdp_group *group)
 {
-    if (container == nullptr || group == nullptr || lacks_mlines(*container)) {
-        DAK_LOG("dak_app_oa_validate_group_semantics: null                            params\n");
-        return SDP_NULL_ARGUMENT;
-    }
+    if (container == nullptr || group == nullptr)
+        return fail_as_null();
     if (group->semantics == SDP_GROUP_LS)
         return check_ls(*container, *group);
     if (group->semantics == SDP_GROUP_FID)
@@ -175,7 +183,8 @@ uint32_t dak_app_oa_validate_group_semantics(const sdp_container *container, con
 uint32_t dak_app_oa_validate_group_mids(const sdp_container *container, const sdp_group *group,
                                         uint32_t group_index)
 {
-    if (container == nullptr || group == nullptr || lacks_mlines(*container)) {
+    const bool is_given = container != nullptr && group != nullptr;
+    if (!is_given || (group->num_mids != 0 && lacks_mlines(*container))) {
         DAK_LOG("dak_app_oa_validate_group_mids: null                            params\n");
         return SDP_NULL_ARGUMENT;
     }

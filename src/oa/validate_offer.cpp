@@ -233,9 +233,9 @@ uint32_t check_change(const sdp_media_line &modified, const sdp_media_line &prev
         return SDP_VALID;
     built_text<sizeof modified.mid + 1> now;
     built_text<sizeof previous.mid + 1> before;
-    DAK_LOG("validate_modified_sdp:Mids in mod-offer dont         match with the prev-offer prev_tag %s "
-            "mod_tag %s\n",
-            before.add(field_text(previous.mid)).c_str(), now.add(field_text(modified.mid)).c_str());
+    DAK_LOG(
+        "validate_modified_sdp:Mids in mod-offer dont         match with the prev-offer prev_tag %s mod_tag %s\n",
+        before.add(field_text(previous.mid)).c_str(), now.add(field_text(modified.mid)).c_str());
     return SDP_INVALID_MID;
 }
 
@@ -251,8 +251,8 @@ uint32_t dak_app_oa_validate_initial_offer(const sdp_container *offer)
         return SDP_NULL_ARGUMENT;
     }
     if (static_cast<int64_t>(offer->origin_session_version) >= lowest_invalid_version) {
-        DAK_LOG("dak_app_oa_validate_initial_offer: Invalid                                                  "
-                "  origin \n");
+        DAK_LOG(
+            "dak_app_oa_validate_initial_offer: Invalid                                                    origin \n");
         return SDP_INVALID_ORIGIN;
     }
     return dak_app_oa_validate_offer_params(offer);
