@@ -76,8 +76,8 @@ uint32_t encode_document(sdp_lib_context *document, const sdp_payload_buffer &bu
     }
     const char *text = get_sdp_text(document);
     if (text == nullptr) {
-        DAK_LOG("dak_app_oa_generate_sdp:Failed getting Encoder                                     "
-                "sdp_payload \n");
+        DAK_LOG(
+            "dak_app_oa_generate_sdp:Failed getting Encoder                                     sdp_payload \n");
         return SDP_OA_BAD_PARAMETERS;
     }
     return copy_out(text, buffer);
@@ -92,14 +92,14 @@ uint32_t dak_app_oa_generate_sdp(sdp_container *container, sdp_payload_buffer *b
         return SDP_OA_BAD_PARAMETERS;
     }
     if (buffer->capacity == 0) {
-        DAK_LOG("dak_app_oa_generate_sdp: Invalid SDP Payload                                             "
-                "length\n");
+        DAK_LOG(
+            "dak_app_oa_generate_sdp: Invalid SDP Payload                                             length\n");
         return SDP_OA_INVALID_CONTENT;
     }
     sdp_lib_context *document = init_sdp_lib();
     if (document == nullptr) {
-        DAK_LOG("dak_app_oa_generate_sdp: SDP context init                                              "
-                "failed\n");
+        DAK_LOG(
+            "dak_app_oa_generate_sdp: SDP context init                                              failed\n");
         return SDP_OA_BAD_PARAMETERS;
     }
     uint32_t result = build_document(document, container);

@@ -220,11 +220,9 @@ struct number_attribute {
 };
 constexpr number_attribute number_attributes[] = {
     {"framerate", &sdp_media_line::framerate_present, &sdp_media_line::framerate,
-     "dak_app_oa_encode_media_gen_attr:No frame rate                                                         "
-     "info\n"},
+     "dak_app_oa_encode_media_gen_attr:No frame rate                                                         info\n"},
     {"maxprate", &sdp_media_line::maxprate_present, &sdp_media_line::maxprate,
-     "dak_app_oa_encode_media_gen_attr:No frame rate                                                         "
-     "info\n"},
+     "dak_app_oa_encode_media_gen_attr:No frame rate                                                         info\n"},
     {"maxptime", &sdp_media_line::maxptime_present, &sdp_media_line::maxptime,
      "dak_app_oa_encode_media_gen_attr:No Maxptime                                          attr\n"},
     {"ptime", &sdp_media_line::ptime_present, &sdp_media_line::ptime,
@@ -350,8 +348,8 @@ uint32_t dak_app_oa_encode_media_bandwidth(media_description *md, const sdp_band
 uint32_t dak_app_oa_encode_media_formats(media_description *md, sdp_media_line *mline)
 {
     if (md == nullptr || mline == nullptr) {
-        DAK_LOG("dak_app_oa_encode_media_formats: Incorrect                                                  "
-                "    params\n");
+        DAK_LOG(
+            "dak_app_oa_encode_media_formats: Incorrect                                                      params\n");
         return SDP_OA_BAD_PARAMETERS;
     }
     for (int i = 0; i < mline->num_formats && i < SDP_MAX_FORMATS; i++) {

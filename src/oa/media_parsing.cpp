@@ -186,8 +186,8 @@ void read_mline(media_description *md, sdp_media_line *mline)
     else if (read_line_attributes(md, mline) != SDP_OA_SUCCESS)
         DAK_LOG("dak_app_oa_parse_mlines: Error in                                             media attr\n");
     else if (dak_app_oa_parse_formats(md, mline) != SDP_OA_SUCCESS)
-        DAK_LOG("dak_app_oa_parse_message_attr: Error in                                             message "
-                "attr\n");
+        DAK_LOG(
+            "dak_app_oa_parse_message_attr: Error in                                             message attr\n");
     else
         dak_app_oa_parse_message_attr(md, mline);
 }
@@ -241,8 +241,8 @@ uint32_t dak_app_oa_parse_mlines(sdp_lib_context *document, sdp_container *conta
         media_description *md =
             get_media_description_by_index(document, SDP_PARSER_DOCUMENT, static_cast<uint32_t>(i));
         if (md == nullptr) {
-            DAK_LOG("dak_app_oa_parse_mlines: Invalid Media                                                  "
-                    "   info\n");
+            DAK_LOG(
+                "dak_app_oa_parse_mlines: Invalid Media                                                     info\n");
             dak_free(container->mlines);
             container->num_mlines = 0; // the pointer is left; nothing follows it while the count is 0
             return SDP_OA_UNUSABLE;
@@ -255,8 +255,8 @@ uint32_t dak_app_oa_parse_mlines(sdp_lib_context *document, sdp_container *conta
 uint32_t dak_app_oa_parse_media_line(media_description *md, sdp_media_line *mline)
 {
     if (md == nullptr || mline == nullptr) {
-        DAK_LOG("dak_app_oa_parse_media_line: Incorrect                                                 "
-                "params\n");
+        DAK_LOG(
+            "dak_app_oa_parse_media_line: Incorrect                                                 params\n");
         return SDP_OA_BAD_PARAMETERS;
     }
     const word *media = find_word(media_words, text_range(get_media_type(md)));
@@ -279,8 +279,8 @@ uint32_t dak_app_oa_parse_media_line(media_description *md, sdp_media_line *mlin
 uint32_t dak_app_oa_parse_media_connection(media_description *md, sdp_media_line *mline)
 {
     if (md == nullptr || mline == nullptr) {
-        DAK_LOG("dak_app_oa_parse_media_connection: Incorrect                                                "
-                "   params\n");
+        DAK_LOG(
+            "dak_app_oa_parse_media_connection: Incorrect                                                   params\n");
         return SDP_OA_BAD_PARAMETERS;
     }
     const char *value = get_media_description_value_by_index(md, 0, "c=");
@@ -295,8 +295,8 @@ uint32_t dak_app_oa_parse_media_connection(media_description *md, sdp_media_line
 uint32_t dak_app_oa_parse_media_bandwidth(media_description *md, sdp_media_line *mline)
 {
     if (md == nullptr || mline == nullptr) {
-        DAK_LOG("dak_app_oa_parse_media_bandwidth: Incorrect                                                 "
-                "  params\n");
+        DAK_LOG(
+            "dak_app_oa_parse_media_bandwidth: Incorrect                                                   params\n");
         return SDP_OA_BAD_PARAMETERS;
     }
     constexpr bandwidth_reader reader = {"dak_app_oa_parse_media_bandwidth: No BW Info\n",
@@ -309,8 +309,8 @@ uint32_t dak_app_oa_parse_media_bandwidth(media_description *md, sdp_media_line 
 uint32_t dak_app_oa_parse_media_gen_attr(media_description *md, sdp_media_line *mline)
 {
     if (md == nullptr || mline == nullptr) {
-        DAK_LOG("dak_app_oa_parse_media_gen_attr: Incorrect                                                  "
-                "   params\n");
+        DAK_LOG(
+            "dak_app_oa_parse_media_gen_attr: Incorrect                                                     params\n");
         return SDP_OA_BAD_PARAMETERS;
     }
     read_properties(md, *mline);

@@ -77,8 +77,8 @@ uint32_t dak_app_oa_parse_sdp(sdp_container *container, const sdp_payload_buffer
     memset(container, 0, sizeof *container);
     sdp_lib_context *document = init_sdp_lib();
     if (document == nullptr) {
-        DAK_LOG("dak_app_oa_parse_sdp:Failed to initialise                                           SDP "
-                "context");
+        DAK_LOG(
+            "dak_app_oa_parse_sdp:Failed to initialise                                           SDP context");
         return SDP_OA_BAD_PARAMETERS;
     }
     const uint32_t result = read_text(document, container, *buffer);

@@ -68,13 +68,13 @@ uint32_t build_origin(heap_text &line, const sdp_container &container)
 {
     uint32_t result = add_username(line, container);
     if (result == SDP_OA_SUCCESS)
-        result = add_number(line, container.origin_session_id,
-                            "dak_app_oa_encode_origin:Insufficient                            length to fit "
-                            "Session Id: %d \n");
+        result = add_number(
+            line, container.origin_session_id,
+            "dak_app_oa_encode_origin:Insufficient                            length to fit Session Id: %d \n");
     if (result == SDP_OA_SUCCESS)
-        result = add_number(line, container.origin_session_version,
-                            "dak_app_oa_encode_origin:Insufficient                            length to fit "
-                            "Session version: %d\n");
+        result = add_number(
+            line, container.origin_session_version,
+            "dak_app_oa_encode_origin:Insufficient                            length to fit Session version: %d\n");
     if (result != SDP_OA_SUCCESS)
         return result;
     result = dak_app_oa_add_address_value(line.c_str(), origin_size - 1, &container.origin_address);
@@ -181,9 +181,9 @@ uint32_t build_accept(attribute_text &text, const sdp_container &container, cons
 {
     if (accept.kind == 0) {
         if (accept.types[0] > SDP_ACCEPT_IMDN) {
-            DAK_LOG("dak_app_oa_encode_message_attr:Invalid   \t\t\t\t\t\t\t\t\t\t\t\t\t\t accept-type.attr: "
-                    "%d\n",
-                    static_cast<int>(container.direction));
+            DAK_LOG(
+                "dak_app_oa_encode_message_attr:Invalid   \t\t\t\t\t\t\t\t\t\t\t\t\t\t accept-type.attr: %d\n",
+                static_cast<int>(container.direction));
             return SDP_OA_INVALID_CONTENT;
         }
         text.add("accept-type:").add(content_types[accept.types[0]].read);
@@ -208,9 +208,9 @@ uint32_t dak_app_oa_encode_version(sdp_lib_context *document, const sdp_containe
         DAK_LOG("dak_app_oa_encode_version: No version info\n");
         return SDP_OA_INVALID_CONTENT;
     }
-    return store(document, "v=", "0",
-                 "dak_app_oa_encode_version: Invalid version                                                 "
-                 "      info\n");
+    return store(
+        document, "v=", "0",
+        "dak_app_oa_encode_version: Invalid version                                                       info\n");
 }
 
 uint32_t dak_app_oa_encode_origin(sdp_lib_context *document, const sdp_container *container)
@@ -282,13 +282,13 @@ uint32_t dak_app_oa_encode_connection(sdp_lib_context *document, const sdp_conta
     const uint32_t result = dak_app_oa_add_address_value(text.c_str(), static_cast<uint16_t>(text.size()),
                                                          &container->connection);
     if (result != SDP_OA_SUCCESS) {
-        DAK_LOG("dak_app_oa_encode_connection:Invalid address                                                "
-                "  info\n");
+        DAK_LOG(
+            "dak_app_oa_encode_connection:Invalid address                                                  info\n");
         return result;
     }
-    return store(document, "c=", text.c_str(),
-                 "dak_app_oa_encode_connection:Invalid connection                                            "
-                 "      info\n");
+    return store(
+        document, "c=", text.c_str(),
+        "dak_app_oa_encode_connection:Invalid connection                                                  info\n");
 }
 
 uint32_t dak_app_oa_encode_time(sdp_lib_context *document, const sdp_container *container)

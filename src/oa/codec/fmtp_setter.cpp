@@ -34,15 +34,15 @@ uint32_t dak_app_sdp_set_int_inmline(media_description *md, uint16_t codec_index
 uint32_t dak_app_sdp_set_string_inmline(media_description *md, uint16_t codec_index, const char *value,
                                         const char *name)
 {
-    return set_value(md, codec_index, value, name,
-                     "dak_app_sdp_set_string_inmline:Invalid media                                           "
-                     "            info\n");
+    return set_value(
+        md, codec_index, value, name,
+        "dak_app_sdp_set_string_inmline:Invalid media                                                       info\n");
 }
 
 uint32_t dak_app_sdp_set_bool_inmline(media_description *md, uint16_t codec_index, int32_t value,
                                       const char *name)
 {
-    return set_value(md, codec_index, value != 0 ? "1" : "0", name,
-                     "dak_app_sdp_set_bool_inmline:Invalid media                                             "
-                     "            value\n");
+    return set_value(
+        md, codec_index, value != 0 ? "1" : "0", name,
+        "dak_app_sdp_set_bool_inmline:Invalid media                                                         value\n");
 }

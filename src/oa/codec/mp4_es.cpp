@@ -25,8 +25,8 @@ uint32_t encode_config(media_description *md, uint16_t codec_index, const sdp_mp
 {
     heap_text text((size_t{mp4.config_len} + 1) * 2);
     if (!text.is_allocated()) {
-        DAK_LOG("dak_app_sdp_encode_mp4_es:Malloc failed at                                     config "
-                "string \n");
+        DAK_LOG(
+            "dak_app_sdp_encode_mp4_es:Malloc failed at                                     config string \n");
         return SDP_OA_NO_MEMORY;
     }
     for (size_t i = 0; i < mp4.config_len && i < config_size; i++) {

@@ -147,8 +147,8 @@ uint32_t dak_app_oa_get_dtmf_tel_event(const char *text, sdp_tel_event_entry *ev
             return SDP_OA_SUCCESS;
         if (events[i].kind == SDP_TEL_EVENT_RANGE && events[i].first > events[i].last) {
             events[i].kind = SDP_TEL_EVENT_END;
-            DAK_LOG("dak_app_oa_get_dtmf_tel_event:Invalid DTMF..                                            "
-                    "   events\n");
+            DAK_LOG(
+                "dak_app_oa_get_dtmf_tel_event:Invalid DTMF..                                               events\n");
             return SDP_OA_INVALID_CONTENT;
         }
     }
