@@ -121,8 +121,8 @@ outcome store_at_payload(media_description &description, uint32_t payload_number
         return outcome::failed;
     }
     if (tail.fb_type == RTCP_FB_UNSUPPORTED) {
-        DAK_LOG("DAK_SDP_parse_a_equal_rtcp_fb_line :                          unsupported rtcp fb attribute "
-                "type \n");
+        DAK_LOG(
+            "DAK_SDP_parse_a_equal_rtcp_fb_line :                          unsupported rtcp fb attribute type \n");
         return outcome::skipped;
     }
     list.fb_count++;
