@@ -234,9 +234,11 @@ int dak_sdp_encode_m_equal(sdp_lib_context *context, media_description *descript
 
 int dak_sdp_encode_media_codec(sdp_lib_context *context, media_description *description, int index)
 {
-    const media_codec *codec = codec_at(description, index);
-    if (context == nullptr || codec == nullptr)
+    if (context == nullptr || description == nullptr)
         return fail();
+    const media_codec *codec = codec_at(description, index);
+    if (codec == nullptr)
+        return 1; // reported; a number without a codec stands in the m= line alone
     const auto payload_number = static_cast<uint16_t>(description->payload_numbers[index]);
     if (codec->rtpmap_valid == 1) {
         if (!has_writable_name(*codec))

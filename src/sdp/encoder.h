@@ -61,7 +61,7 @@ int dak_sdp_encode_m_equal(sdp_lib_context *context, media_description *descript
  * @param context the context
  * @param description the media section
  * @param index position of the payload format
- * @return 1 or 0
+ * @return 1, also, with an assertion report, for a position without a codec; 0
  */
 int dak_sdp_encode_media_codec(sdp_lib_context *context, media_description *description, int index);
 

@@ -103,7 +103,7 @@ int parse_a_euqal_rtcp(const char *line_start, const char *line_end, uint32_t *p
 
 int get_media_rtcp_ip_address(const char **position, const char *end, rtcp_address_info *address)
 {
-    if (position == nullptr || address == nullptr)
+    if (position == nullptr || *position == nullptr || end == nullptr || address == nullptr)
         return fail();
     *address = {};
     const char *start = nullptr;

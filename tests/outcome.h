@@ -1,0 +1,171 @@
+#ifndef DAKSDP_TESTS_OUTCOME_H
+#define DAKSDP_TESTS_OUTCOME_H
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "daksdp.h"
+#include "platform_test.h"
+
+template <auto Release> struct released_by {
+    template <class Record> void operator()(Record *record) const { Release(record); }
+};
+using context_ptr = std::unique_ptr<sdp_lib_context, released_by<clean_sdp_lib>>;
+
+// A media section, usable where a plain pointer is wanted.
+struct section_ptr : std::unique_ptr<media_description, released_by<clean_media_description>> {
+    using unique_ptr::unique_ptr;
+    operator media_description *() const { return get(); }
+};
+
+struct payload {
+    uint32_t number;
+    const char *name; // null leaves the number without a=rtpmap line
+};
+
+// A media section of one port, its payload numbers bound to their encoding names.
+inline section_ptr new_section(const char *profile, const std::vector<payload> &payloads = {})
+{
+    std::vector<uint32_t> numbers;
+    for (const payload &each : payloads)
+        numbers.push_back(each.number);
+    section_ptr section(init_media_description("audio", 49170, 1, profile,
+                                               numbers.empty() ? nullptr : numbers.data(),
+                                               static_cast<int>(numbers.size())));
+    for (const payload &each : payloads) {
+        if (each.name != nullptr)
+            add_media_codec_to_media_description(section.get(), static_cast<int32_t>(each.number), each.name,
+                                                 8000, 1);
+    }
+    return section;
+}
+
+// What a call gave: its result, what it wrote or left behind, its log lines joined by "|", and whether it
+// reported an assertion at least once.
+struct outcome {
+    int result = 1;
+    std::string text;
+    std::string log;
+    bool reported = false;
+
+    bool operator==(const outcome &) const = default;
+};
+
+inline std::ostream &operator<<(std::ostream &out, const outcome &seen)
+{
+    return out << seen.result << (seen.reported ? " (reported) " : " ") << testing::PrintToString(seen.text)
+               << " log " << testing::PrintToString(seen.log);
+}
+
+// The outcome of a call that says something and reports nothing.
+inline outcome log_only(int result, std::string log, std::string text = "")
+{
+    return {result, std::move(text), std::move(log)};
+}
+
+// Makes a call; `show` tells afterwards what it left behind. Every log line is an error without tag.
+template <class Call, class Show> outcome outcome_of(Call call, Show show)
+{
+    std::size_t line = standin::logs().size();
+    const std::size_t reports = standin::assert_count();
+    outcome seen{call()};
+    seen.reported = standin::assert_count() > reports;
+    for (const char *glue = ""; line < standin::logs().size(); ++line, glue = "|") {
+        const standin::log_line &each = standin::logs()[line];
+        EXPECT_TRUE(each.priority == 6 && !each.tagged) << each;
+        seen.log += glue + each.text;
+    }
+    seen.text = show();
+    return seen;
+}
+
+template <class Call> outcome outcome_of(Call call)
+{
+    return outcome_of(call, [] { return std::string(); });
+}
+
+// Writes into a text buffer that has room for so many characters.
+template <class Write> outcome written(Write write, std::size_t room = SDP_TEXT_CAPACITY)
+{
+    const context_ptr context(init_sdp_lib());
+    const std::string before(SDP_TEXT_CAPACITY - room, '.');
+    fill_sdp_buffer(context.get(), before.c_str());
+    return outcome_of([&] { return write(context.get()); },
+                      [&] { return std::string(get_sdp_text(context.get())).substr(before.size()); });
+}
+
+// Calls a writer that takes a context in front of these arguments.
+template <class Write, class... Arguments> outcome written_by(Write write, const Arguments &...arguments)
+{
+    return written([&](sdp_lib_context *context) { return write(context, arguments...); });
+}
+
+// Writes with room for nothing, one character more, ... up to the whole text: what is written in one
+// piece fits whole or not at all, and the pieces in front of it stay.
+template <class Write>
+void expect_pieces(Write write, const std::vector<std::string> &pieces, const std::string &log_when_full)
+{
+    std::string whole;
+    for (const std::string &piece : pieces)
+        whole += piece;
+    for (std::size_t room = 0; room <= whole.size(); ++room) {
+        SCOPED_TRACE(testing::Message() << "room for " << room);
+        std::string fits;
+        for (auto piece = pieces.begin(); piece != pieces.end() && fits.size() + piece->size() <= room;
+             ++piece)
+            fits += *piece;
+        EXPECT_EQ(written(write, room),
+                  room == whole.size() ? (outcome{1, whole}) : (outcome{0, fits, log_when_full, true}));
+    }
+}
+
+// What may stand at the end of a line, the end of the text included.
+inline const std::string_view line_ends[] = {"\r\n", "\n", "\r", {"\0", 1}};
+
+using line_reader = int (*)(media_description *section, const char *line_start, const char *line_end);
+
+// Reads a line out of a block that ends behind the line's terminator.
+inline int read_line(line_reader reader, media_description *section, std::string_view line,
+                     std::string_view line_end = "\r\n")
+{
+    const heap_text text(std::string(line).append(line_end));
+    return reader(section, text.begin(), text.begin() + line.size());
+}
+
+// Reads lines one after the other; a 0 for one is a 0 for all. `show` tells what the section then holds.
+template <class Show>
+outcome lines_read(line_reader reader, media_description *section, const std::vector<std::string> &lines,
+                   std::string_view line_end, Show show)
+{
+    const auto read = [&] {
+        int result = 1;
+        for (const std::string &line : lines)
+            result &= read_line(reader, section, line, line_end);
+        return result;
+    };
+    return outcome_of(read, [&] { return show(section); });
+}
+
+// Lines, and what the last of them leaves.
+struct line_row {
+    std::vector<std::string> lines;
+    outcome seen;
+};
+
+// Reads the lines of each row into a new section, with every line end.
+template <class Make, class Show>
+void expect_rows(line_reader reader, const std::vector<line_row> &rows, Make make_section, Show show)
+{
+    for (const line_row &row : rows) {
+        for (const std::string_view line_end : line_ends)
+            EXPECT_EQ(lines_read(reader, make_section(), row.lines, line_end, show), row.seen)
+                << row.lines.back().substr(0, 80) << testing::PrintToString(line_end);
+    }
+}
+
+#endif
