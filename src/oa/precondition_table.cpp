@@ -14,8 +14,8 @@ constexpr uint32_t valid = 0;
 constexpr uint32_t precondition_error = 14;
 constexpr uint32_t null_argument = 15;
 
-constexpr uint32_t rows = 4;
-constexpr uint32_t columns = 6;
+constexpr size_t rows = 4;
+constexpr size_t columns = 6;
 constexpr uint32_t ignored_direction = 4;
 
 uint32_t fail_as_invalid()
