@@ -82,6 +82,11 @@ template <class Validate> verdict judge(std::initializer_list<const session *> s
     return result;
 }
 
+template <class Function, class... Arguments> verdict call(Function function, Arguments... arguments)
+{
+    return judge({}, [&] { return function(arguments...); });
+}
+
 // `reasons` are all lines in a row, or, after a '~', how they end.
 inline void expect_verdict(const std::string &label, const verdict &got, uint32_t code,
                            std::string_view reasons)
