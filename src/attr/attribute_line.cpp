@@ -31,14 +31,6 @@ int has_write_arguments(const sdp_lib_context *context, const media_description 
     return 0;
 }
 
-int has_read_arguments(const media_description *description, const char *line_start, const char *line_end)
-{
-    if (description != nullptr && line_start != nullptr && line_end != nullptr)
-        return 1;
-    DAK_LOG("NULL Pararms sent \n");
-    return 0;
-}
-
 bool is_message_session(const media_description &description)
 {
     return field_text(description.transport_profile).equals("TCP/MSRP");

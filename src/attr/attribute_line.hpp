@@ -5,6 +5,7 @@
 #include "sdp/document_record.h"
 #include "sdp/media_description_record.h"
 #include "util/bounded_text.hpp"
+#include "util/report.hpp"
 
 namespace dak {
 
@@ -18,7 +19,14 @@ int write_attribute_line(sdp_lib_context *context, const line_builder &line, tex
 int has_write_arguments(const sdp_lib_context *context, const media_description *description);
 
 // Checks the arguments of a reader, with its log line.
-int has_read_arguments(const media_description *description, const char *line_start, const char *line_end);
+inline bool has_read_arguments(const media_description *description, const char *line_start,
+                               const char *line_end)
+{
+    if (description != nullptr && line_start != nullptr && line_end != nullptr)
+        return true;
+    DAK_LOG("NULL Pararms sent \n");
+    return false;
+}
 
 bool is_message_session(const media_description &description);
 

@@ -47,6 +47,8 @@ private:
 // that follow it.
 template <size_t Size> class built_text {
 public:
+    built_text() { text_[0] = '\0'; }
+
     built_text &add(text_range piece)
     {
         fits_ = fits_ && piece.length() < Size - length_;
@@ -75,7 +77,7 @@ public:
 private:
     size_t length_ = 0;
     bool fits_ = true;
-    char text_[Size] = "";
+    char text_[Size];
 };
 
 // One line, or one piece of it, on its way to the text buffer.
