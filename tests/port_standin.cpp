@@ -62,15 +62,9 @@ std::ostream &operator<<(std::ostream &out, const log_line &line)
     return out;
 }
 
-void reset()
-{
-    here = platform{};
-}
+void reset() { here = platform{}; }
 
-const std::vector<log_line> &logs()
-{
-    return here.logs;
-}
+const std::vector<log_line> &logs() { return here.logs; }
 
 std::vector<std::string> texts()
 {
@@ -80,25 +74,13 @@ std::vector<std::string> texts()
     return result;
 }
 
-std::size_t assert_count()
-{
-    return here.asserts;
-}
+std::size_t assert_count() { return here.asserts; }
 
-long live_blocks()
-{
-    return here.live;
-}
+long live_blocks() { return here.live; }
 
-std::size_t allocations()
-{
-    return here.allocations;
-}
+std::size_t allocations() { return here.allocations; }
 
-std::size_t failed_allocations()
-{
-    return here.failed;
-}
+std::size_t failed_allocations() { return here.failed; }
 
 void fail_allocation(std::size_t number)
 {
@@ -118,10 +100,7 @@ void allow_allocations()
     here.last_failing = never;
 }
 
-void set_exhausted_place(exhausted_place place)
-{
-    here.exhausted = place;
-}
+void set_exhausted_place(exhausted_place place) { here.exhausted = place; }
 
 } // namespace standin
 
@@ -167,10 +146,7 @@ char *dak_strtok(char *text, const char *delimiters, char **save)
     return found;
 }
 
-void dak_assert_failed(void)
-{
-    ++here.asserts;
-}
+void dak_assert_failed(void) { ++here.asserts; }
 
 int platInetPton(int family, const char *text, void *destination)
 {

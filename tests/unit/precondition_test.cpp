@@ -90,6 +90,11 @@ TEST_F(Precondition, lines_are_read_as_whole_texts)
         log_only(0, "parse_a_equal_pcd_line :                          NULL Pararms sent \n");
     EXPECT_EQ(call(parse_a_equal_pcd_line, nullptr, first.data(), first.data()), null);
     EXPECT_EQ(call(parse_a_equal_pcd_line, section, nullptr, first.data()), null);
+    EXPECT_EQ(call(parse_a_equal_pcd_line, section, first.data(), nullptr), refused);
+    // The value ends at a CR; at another end the terminator counts as its last character.
+    for (const std::string_view line_end : line_ends)
+        EXPECT_EQ(read_line(parse_a_equal_pcd_line, section, "a=curr:" + xs(199), line_end),
+                  line_end[0] == '\r');
 }
 
 TEST_F(Precondition, what_is_read_is_written_back_byte_for_byte)
