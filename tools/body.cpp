@@ -83,4 +83,19 @@ std::vector<body_line> split_lines(std::string_view text)
     return lines;
 }
 
+std::vector<std::span<const body_line>> split_sections(std::span<const body_line> lines)
+{
+    const auto begins_media = [](const body_line &line) { return line.text.starts_with("m="); };
+    std::vector<std::span<const body_line>> sections;
+    auto start = lines.begin();
+    auto end = std::find_if(start, lines.end(), begins_media);
+    sections.emplace_back(start, end);
+    while (end != lines.end()) {
+        start = end;
+        end = std::find_if(start + 1, lines.end(), begins_media);
+        sections.emplace_back(start, end);
+    }
+    return sections;
+}
+
 } // namespace inspector

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +29,9 @@ std::optional<body> read_body(const std::string &name, std::string &reason);
 
 // The lines that are not blank. CR LF, LF and CR end a line.
 std::vector<body_line> split_lines(std::string_view text);
+
+// The session's lines, then those of each media section, from its m= line on.
+std::vector<std::span<const body_line>> split_sections(std::span<const body_line> lines);
 
 } // namespace inspector
 

@@ -6,8 +6,9 @@ namespace inspector {
 
 enum exit_status {
     exit_ok = 0,
-    exit_unusable = 2, // wrong arguments, or a file that cannot be read
-    exit_refused = 3   // a body that does not parse
+    exit_unwritable = 1, // a body that parses and cannot be generated again
+    exit_unusable = 2,   // wrong arguments, or a file that cannot be read
+    exit_refused = 3     // a body that does not parse
 };
 
 } // namespace inspector

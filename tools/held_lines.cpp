@@ -1,5 +1,6 @@
 #include "held_lines.hpp"
 
+#include "blanks.hpp"
 #include "record_text.hpp"
 #include "words.hpp"
 
@@ -10,29 +11,6 @@
 
 namespace inspector {
 namespace {
-
-constexpr std::string_view white = " \t";
-
-// The text up to one of the characters, taken off together with it.
-std::string_view take_until(std::string_view &text, std::string_view ends)
-{
-    const std::size_t length = std::min(text.find_first_of(ends), text.size());
-    const std::string_view taken = text.substr(0, length);
-    text.remove_prefix(std::min(length + 1, text.size()));
-    return taken;
-}
-
-std::string single_blanks(std::string_view text)
-{
-    std::string result;
-    while (!text.empty()) {
-        const std::string_view word = take_until(text, white);
-        if (!word.empty() && !result.empty())
-            result += ' ';
-        result += word;
-    }
-    return result;
-}
 
 std::string normal_attribute(std::string_view text)
 {
@@ -193,7 +171,7 @@ void held_lines::add_file_date(const std::string &kind, const std::string &date)
 bool held_lines::holds_fmtp(std::string_view line)
 {
     line.remove_prefix(std::strlen("a=fmtp:"));
-    const int index = payload_position(description_, take_until(line, white));
+    const int index = payload_position(description_, take_until(line, blanks));
     if (index < 0)
         return false;
     const std::string_view separators = parted_by_blanks(description_.codecs[index].mime_type) ? "; " : ";";

@@ -28,21 +28,17 @@ void print_session(outline &out, const sdp_info_container &document)
         print_session_lines(out, document, slot);
 }
 
-bool begins_media(const body_line &line) { return line.text.starts_with("m="); }
-
 } // namespace
 
 void print_document(outline &out, sdp_lib_context *context, std::span<const body_line> lines)
 {
     print_session(out, *context->parser_document);
-    auto start = std::find_if(lines.begin(), lines.end(), begins_media);
+    const auto sections = split_sections(lines);
     const int count = get_number_of_media_description(context, SDP_PARSER_DOCUMENT);
     for (int index = 0; index < count; index++) {
-        const auto end = std::find_if(start + 1, lines.end(), begins_media);
         media_description *description =
             get_media_description_by_index(context, SDP_PARSER_DOCUMENT, static_cast<std::uint32_t>(index));
-        print_media(out, index + 1, *description, {start, end});
-        start = end;
+        print_media(out, index + 1, *description, sections[static_cast<std::size_t>(index) + 1]);
     }
 }
 

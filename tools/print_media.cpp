@@ -1,5 +1,6 @@
 #include "print_media.hpp"
 
+#include "container_text.hpp"
 #include "held_lines.hpp"
 #include "print_format.hpp"
 #include "print_message.hpp"
@@ -13,20 +14,11 @@
 namespace inspector {
 namespace {
 
-std::string port_text(const media_description &description)
-{
-    std::string text = "port " + std::to_string(description.media_port);
-    if (description.media_port == 0)
-        text += " (not in use)";
-    if (description.number_of_media_port != 1)
-        text += " (" + std::to_string(description.number_of_media_port) + " ports)";
-    return text;
-}
-
 void print_heading(outline &out, int number, const media_description &description)
 {
     out.heading("Media " + std::to_string(number) + ": " + description.media_type + ", " +
-                port_text(description) + ", " + description.transport_profile);
+                port_text(description.media_port, description.number_of_media_port) + ", " +
+                description.transport_profile);
 }
 
 void print_typed_lines(outline &out, const media_description &description)

@@ -74,28 +74,42 @@ void print_range(outline &out, const sdp_file_range &range)
         out.row("range", "from " + start);
 }
 
+// The two layers have the same records.
+
+template <typename Section> void print_session_records(outline &out, const Section &section)
+{
+    if (section.accept_types.present != 0)
+        out.row("accepts", accept_text(section.accept_types));
+    if (section.accept_wrapped_types.present != 0)
+        out.row("accepts wrapped", accept_text(section.accept_wrapped_types));
+    print_path(out, section.path);
+    if (section.max_size.present != 0)
+        out.row("largest message", std::to_string(section.max_size.max_size));
+}
+
+template <typename Section> void print_file_records(outline &out, const Section &section)
+{
+    for (const sdp_file_selector &selector : file_selectors(section))
+        print_selector(out, selector);
+    row_if_set(out, "transfer id", section.file_transfer_id);
+    print_disposition(out, section.file_disposition);
+    print_dates(out, section.file_date);
+    row_if_set(out, "icon, content id", section.file_icon);
+    print_range(out, section.file_range);
+}
+
 } // namespace
 
 void print_message_session(outline &out, const media_description &description)
 {
-    if (description.accept_types.present != 0)
-        out.row("accepts", accept_text(description.accept_types));
-    if (description.accept_wrapped_types.present != 0)
-        out.row("accepts wrapped", accept_text(description.accept_wrapped_types));
-    print_path(out, description.path);
-    if (description.max_size.present != 0)
-        out.row("largest message", std::to_string(description.max_size.max_size));
+    print_session_records(out, description);
 }
+void print_message_session(outline &out, const sdp_media_line &mline) { print_session_records(out, mline); }
 
 void print_file_transfer(outline &out, const media_description &description)
 {
-    for (const sdp_file_selector &selector : file_selectors(description))
-        print_selector(out, selector);
-    row_if_set(out, "transfer id", description.file_transfer_id);
-    print_disposition(out, description.file_disposition);
-    print_dates(out, description.file_date);
-    row_if_set(out, "icon, content id", description.file_icon);
-    print_range(out, description.file_range);
+    print_file_records(out, description);
 }
+void print_file_transfer(outline &out, const sdp_media_line &mline) { print_file_records(out, mline); }
 
 } // namespace inspector

@@ -23,6 +23,29 @@ std::string authority_text(const sdp_path_attr &path)
     return text;
 }
 
+// The two layers have records of their own with the same fields.
+
+template <typename Entry> std::string text_of_feedback(const Entry &entry)
+{
+    std::string text(entry.fb_type == RTCP_FB_NACK  ? find_word(nack_words, entry.nack_subtype)
+                     : entry.fb_type == RTCP_FB_CCM ? find_word(ccm_words, entry.ccm_subtype)
+                                                    : "unsupported");
+    append_item(text, entry.fb_param);
+    return text;
+}
+
+template <typename Holder> std::span<const sdp_rtcp_fb> used_feedback(const Holder &holder)
+{
+    return std::span(holder.rtcp_fb)
+        .first(holder.rtcp_fb_present == 1 ? std::min<std::size_t>(holder.num_rtcp_fb, SDP_MAX_RTCP_FB) : 0);
+}
+
+template <typename Section> std::span<const sdp_file_selector> used_selectors(const Section &section)
+{
+    const int count = std::clamp(section.num_file_selectors, 0, SDP_MAX_FILE_SELECTORS);
+    return std::span(section.file_selectors).first(static_cast<std::size_t>(count));
+}
+
 } // namespace
 
 std::span<const rtcp_fb_entry> feedback_entries(const rtcp_fb_list &feedback)
@@ -31,20 +54,23 @@ std::span<const rtcp_fb_entry> feedback_entries(const rtcp_fb_list &feedback)
         .first(feedback.fb_present == 1 ? std::min<std::size_t>(feedback.fb_count, RTCP_FB_MAX_ENTRIES) : 0);
 }
 
-std::span<const sdp_file_selector> file_selectors(const media_description &description)
+std::span<const sdp_rtcp_fb> feedback_entries(const sdp_media_line &mline) { return used_feedback(mline); }
+std::span<const sdp_rtcp_fb> feedback_entries(const sdp_payload_format &format)
 {
-    const int count = std::clamp(description.num_file_selectors, 0, SDP_MAX_FILE_SELECTORS);
-    return std::span(description.file_selectors).first(static_cast<std::size_t>(count));
+    return used_feedback(format);
 }
 
-std::string feedback_text(const rtcp_fb_entry &entry)
+std::span<const sdp_file_selector> file_selectors(const media_description &description)
 {
-    std::string text(entry.fb_type == RTCP_FB_NACK  ? find_word(nack_words, entry.nack_subtype)
-                     : entry.fb_type == RTCP_FB_CCM ? find_word(ccm_words, entry.ccm_subtype)
-                                                    : "unsupported");
-    append_item(text, entry.fb_param);
-    return text;
+    return used_selectors(description);
 }
+std::span<const sdp_file_selector> file_selectors(const sdp_media_line &mline)
+{
+    return used_selectors(mline);
+}
+
+std::string feedback_text(const rtcp_fb_entry &entry) { return text_of_feedback(entry); }
+std::string feedback_text(const sdp_rtcp_fb &entry) { return text_of_feedback(entry); }
 
 std::string accept_text(const sdp_accept_attr &accept)
 {

@@ -13,10 +13,16 @@ namespace inspector {
 // The entries of a feedback list that the library gives out: none until one was stored for good.
 std::span<const rtcp_fb_entry> feedback_entries(const rtcp_fb_list &feedback);
 
+// Those of a container; the present flags of such lists count when they are exactly 1.
+std::span<const sdp_rtcp_fb> feedback_entries(const sdp_media_line &mline);
+std::span<const sdp_rtcp_fb> feedback_entries(const sdp_payload_format &format);
+
 std::span<const sdp_file_selector> file_selectors(const media_description &description);
+std::span<const sdp_file_selector> file_selectors(const sdp_media_line &mline);
 
 // "nack pli", with the parameter text behind it.
 std::string feedback_text(const rtcp_fb_entry &entry);
+std::string feedback_text(const sdp_rtcp_fb &entry);
 
 // "message/cpim text/plain".
 std::string accept_text(const sdp_accept_attr &accept);

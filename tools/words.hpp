@@ -56,6 +56,7 @@ inline constexpr std::span<const word> file_types = std::span(content_types).sub
 inline constexpr word dispositions[] = {
     {SDP_FILE_INLINE, "inline"}, {SDP_FILE_ATTACHMENT, "attachment"}, {SDP_FILE_RENDER, "render"}};
 
+// Also of the container's addresses.
 inline constexpr word address_types[] = {{SDP_ADDRESS_IP4, "IP4"}, {SDP_ADDRESS_IP6, "IP6"}};
 
 inline constexpr word path_schemes[] = {{SDP_PATH_MSRP, "msrp"}, {SDP_PATH_MSRPS, "msrps"}};
@@ -63,6 +64,70 @@ inline constexpr word path_schemes[] = {{SDP_PATH_MSRP, "msrp"}, {SDP_PATH_MSRPS
 inline constexpr word nack_words[] = {{RTCP_FB_NACK_PLAIN, "nack"}, {RTCP_FB_NACK_PLI, "nack pli"}};
 
 inline constexpr word ccm_words[] = {{RTCP_FB_CCM_FIR, "ccm fir"}, {RTCP_FB_CCM_TMMBR, "ccm tmmbr"}};
+
+inline constexpr word feedback_types[] = {
+    {RTCP_FB_NACK, "nack"}, {RTCP_FB_CCM, "ccm"}, {RTCP_FB_UNSUPPORTED, "unsupported"}};
+
+inline constexpr word nack_subtypes[] = {{RTCP_FB_NACK_PLAIN, "plain"}, {RTCP_FB_NACK_PLI, "pli"}};
+
+inline constexpr word ccm_subtypes[] = {{RTCP_FB_CCM_FIR, "fir"}, {RTCP_FB_CCM_TMMBR, "tmmbr"}};
+
+inline constexpr word hash_algorithms[] = {{SDP_FILE_HASH_SHA1, "sha-1"}};
+
+// The container's enumerations.
+
+inline constexpr word media_types[] = {
+    {SDP_MEDIA_AUDIO, "audio"},     {SDP_MEDIA_VIDEO, "video"},     {SDP_MEDIA_DATA, "data"},
+    {SDP_MEDIA_CONTROL, "control"}, {SDP_MEDIA_MESSAGE, "message"}, {SDP_MEDIA_IMAGE, "image"},
+    {SDP_MEDIA_UNKNOWN, "unknown"},
+};
+
+inline constexpr word transports[] = {
+    {SDP_RTP_AVP, "RTP/AVP"},           {SDP_RTP_AVPF, "RTP/AVPF"},         {SDP_TCP_MSRP, "TCP/MSRP"},
+    {SDP_TCP_TLS_MSRP, "TCP/TLS/MSRP"}, {SDP_TRANSPORT_UNKNOWN, "unknown"},
+};
+
+inline constexpr word directions[] = {{SDP_RECVONLY, "recvonly"},
+                                      {SDP_SENDONLY, "sendonly"},
+                                      {SDP_SENDRECV, "sendrecv"},
+                                      {SDP_INACTIVE, "inactive"}};
+
+inline constexpr word bandwidth_modifiers[] = {
+    {SDP_BW_AS, "AS"}, {SDP_BW_CT, "CT"}, {SDP_BW_TIAS, "TIAS"}, {SDP_BW_RR, "RR"}, {SDP_BW_RS, "RS"}};
+
+inline constexpr word bandwidth_units[] = {{SDP_BW_AS, "kbit/s"},
+                                           {SDP_BW_CT, "kbit/s"},
+                                           {SDP_BW_TIAS, "bit/s"},
+                                           {SDP_BW_RR, "bit/s"},
+                                           {SDP_BW_RS, "bit/s"}};
+
+inline constexpr word group_semantics[] = {
+    {SDP_GROUP_LS, "LS"}, {SDP_GROUP_FID, "FID"}, {SDP_GROUP_UNKNOWN, "unknown"}};
+
+inline constexpr word setups[] = {{SDP_SETUP_ACTIVE, "active"},
+                                  {SDP_SETUP_PASSIVE, "passive"},
+                                  {SDP_SETUP_ACTPASS, "actpass"},
+                                  {SDP_SETUP_HOLDCONN, "holdconn"}};
+
+inline constexpr word precondition_types[] = {{SDP_PRECOND_UNKNOWN, "unknown"}, {SDP_PRECOND_QOS, "qos"}};
+
+inline constexpr word strengths[] = {{SDP_STRENGTH_UNKNOWN, "unknown"},
+                                     {SDP_STRENGTH_NONE, "none"},
+                                     {SDP_STRENGTH_FAILURE, "failure"},
+                                     {SDP_STRENGTH_OPTIONAL, "optional"},
+                                     {SDP_STRENGTH_MANDATORY, "mandatory"}};
+
+inline constexpr word status_types[] = {
+    {SDP_STATUS_E2E, "e2e"}, {SDP_STATUS_LOCAL, "local"}, {SDP_STATUS_REMOTE, "remote"}};
+
+inline constexpr word precondition_directions[] = {{SDP_PRECOND_RECV, "recv"},
+                                                   {SDP_PRECOND_SEND, "send"},
+                                                   {SDP_PRECOND_SENDRECV, "sendrecv"},
+                                                   {SDP_PRECOND_NONE, "none"}};
+
+inline constexpr word fixed_rates[] = {{SDP_EVRC_HALF_RATE, "0.5"}, {SDP_EVRC_FULL_RATE, "1"}};
+
+inline constexpr word event_kinds[] = {{SDP_TEL_EVENT_SINGLE, "single"}, {SDP_TEL_EVENT_RANGE, "range"}};
 
 // What RFC 3551 assigns to payload type numbers.
 inline constexpr word static_payloads[] = {

@@ -59,8 +59,7 @@ a=des:qos mandatory local sendrecv
 a=des:qos mandatory remote sendrecv
 a=conf:qos remote sendrecv
 )"},
-        {"msrp_file_transfer.sdp", R"(a=accept-types:message/cpim
-a=acceptwrapped-types:*
+        {"msrp_file_transfer.sdp", R"(a=accept-types:*
 a=path:msrp://send.example.com:7654/jshA7we;tcp
 a=file-selector:name:"lake at dusk.jpg" type:image/jpeg size:4092 hash:sha-1:72:24:5F:E8:65:3D:DA:F3:71:36:2F:86:D4:71:91:3E:E4:A2:CE:2E
 a=file-transfer-id:vBnG916bdberum2fFEABR1FR3ExZMUrd

@@ -22,6 +22,7 @@ expected=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)/expected
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
+report=$work/report
 checks=0
 failures=0
 
@@ -37,26 +38,38 @@ run() {
     echo "$status" >"$work/status"
 }
 
-# expect NAME ARGUMENT... - one run, compared as a whole with expected/NAME.txt.
-expect() {
-    local name=$1 report=$work/report
-    shift
-    checks=$((checks + 1))
-    echo "$name.txt" >>"$work/used"
+# show_run ARGUMENT... - adds one run to the report. CR, which rewritten text has before every LF, is left out.
+show_run() {
     run "$@"
     {
         printf '$ daksdp'
         printf ' %q' "$@"
         echo
-        cat "$work/out"
+        tr -d '\r' <"$work/out"
         sed 's/^/stderr: /' "$work/err"
         echo "status: $(cat "$work/status")"
-    } >"$report"
+    } >>"$report"
+}
+
+# compare NAME - the report, as a whole, with expected/NAME.txt; another report begins.
+compare() {
+    local name=$1
+    checks=$((checks + 1))
+    echo "$name.txt" >>"$work/used"
     if [ "$update" = yes ]; then
         cp "$report" "$expected/$name.txt"
     elif ! diff -u --text "$expected/$name.txt" "$report"; then
         fail "$name" "other output than expected"
     fi
+    : >"$report"
+}
+
+# expect NAME ARGUMENT... - one run, compared with expected/NAME.txt.
+expect() {
+    local name=$1
+    shift
+    show_run "$@"
+    compare "$name"
 }
 
 # expect_usage_error NAME PATTERN ARGUMENT... - the argument parser words these, so only the gist is fixed.
@@ -102,22 +115,71 @@ body() {
 
 session='v=0\r\no=- 1 1 IN IP4 192.0.2.1\r\ns=-\r\nt=0 0\r\n'
 
+# expect_cr_lf NAME - every line of the last run's output ends in CR LF, and nothing else holds a CR.
+expect_cr_lf() {
+    checks=$((checks + 1))
+    [ "$(tr -cd '\r' <"$work/out" | wc -c)" -eq "$(wc -l <"$work/out")" ] &&
+        ! grep -qv $'\r$' "$work/out" || fail "$1" "not all lines end in CR LF"
+}
+
+# show_rewriting FILE - a rewriting, and what a parse of its text does not find again.
+show_rewriting() {
+    local file=$1
+    show_run rewrite "$file"
+    [ "$(cat "$work/status")" = 0 ] || return 0
+    expect_cr_lf "rewritten $file"
+    cp "$work/out" "$work/rewritten.sdp"
+    "${tool[@]}" show --json "$file" >"$work/before"
+    "${tool[@]}" show --json "$work/rewritten.sdp" >"$work/after"
+    echo 'in the container before and after:' >>"$report"
+    if cmp -s "$work/before" "$work/after"; then
+        echo 'the same' >>"$report"
+    else
+        diff "$work/before" "$work/after" | grep '^[<>]' >>"$report" || true
+    fi
+}
+
 every_example() {
     local file
     cd "$examples"
     for file in *.sdp; do
-        expect "${file%.sdp}" show "$file"
+        show_run show "$file"
+        show_run show --json "$file"
+        show_rewriting "$file"
+        compare "${file%.sdp}"
+        run show --document "$file"
         expect_words "$file"
     done
 }
 
-standard_input() {
-    checks=$((checks + 1))
+documents() {
     cd "$examples"
-    run show volte_offer.sdp
-    cp "$work/out" "$work/from_file"
-    "${tool[@]}" show - <volte_offer.sdp >"$work/out"
-    cmp "$work/from_file" "$work/out" || fail "standard input" "other output than from a file"
+    expect document_maximal show --document maximal.sdp
+    expect document_file_transfer show --document msrp_file_transfer.sdp
+    expect document_vilte show --document vilte_offer.sdp
+}
+
+every_codec_has_an_example() {
+    local codec
+    for codec in PCMU PCMA G723 G722 G729 G711AB H263 MP4V-ES H264 EVRC AMR AMR-WB G722_2 EVRC0 EVRCB0 EVRCB \
+        EVRC1 EVRCB1 telephone-event H263-1998 H263-2000 EVRCWB0 EVRCWB EVRCWB1; do
+        checks=$((checks + 1))
+        grep -q "^  format [0-9]*  *$codec," "$expected"/*.txt || fail "codec $codec" "in no example"
+    done
+}
+
+standard_input() {
+    local command
+    cd "$examples"
+    for command in 'show' 'show --json' 'show --document' 'rewrite'; do
+        checks=$((checks + 1))
+        # shellcheck disable=SC2086
+        run $command volte_offer.sdp
+        cp "$work/out" "$work/from_file"
+        # shellcheck disable=SC2086
+        "${tool[@]}" $command - <volte_offer.sdp >"$work/out"
+        cmp "$work/from_file" "$work/out" || fail "$command of standard input" "other output than from a file"
+    done
     cd "$work"
     body bad.sdp 'v=0\r\nthis is no body\r\n'
     expect standard_input_refused show - <bad.sdp
@@ -126,20 +188,106 @@ standard_input() {
 log_lines() {
     cd "$examples"
     expect log_static_payloads show --log static_payloads.sdp
+    expect log_rewriting rewrite --log minimal.sdp
     cd "$work"
     body hostile_log.sdp "${session}m=audio 4000 RTP/A\\033[2JVP 96\\r\\na=rtcp-fb:* nack\\r\\n"
     expect log_hostile show hostile_log.sdp --log
 }
 
-# A body cannot write to the terminal what it likes.
+# A body cannot write to the terminal what it likes, and JSON stays JSON.
 hostile_text() {
     cd "$work"
-    body controls.sdp 'v=0\r\ns=\033]0;owned\007 \177 \tx\r\ni=a\\x1bb \302\233 \342\200\256 \377\300\200 \303\274\r\n'
-    expect hostile_controls show controls.sdp
-    body media.sdp "${session}m=au\\033dio 4000 RTP/\\0332J 96\\r\\na=rtpmap:96 A\\033MR/8000\\r\\na=\\033x:\\033\\r\\nb=\\033\\r\\nq\\033=1\\r\\n"
-    expect hostile_media show media.sdp
+    body controls.sdp 'v=0\r\no=\033 1 1 IN IP4 \302\233\r\ns=\033]0;owned\007 \177 \tx\r\ni=a\\x1bb "\302\233" \342\200\256 \377\300\200 \303\274\r\n'
+    show_run show controls.sdp
+    show_run show --json controls.sdp
+    show_run show --document controls.sdp
+    compare hostile_controls
+    body media.sdp "${session}m=au\\033dio 4000 RTP/\\0332J 96\\r\\na=rtpmap:96 A\\033MR/8000\\r\\na=\\033x:\\033\\r\\nb=\\033\\r\\nq\\033=1\\r\\nm=video 4000 RTP/\\0332J 96\\r\\na=mid:\\033\\r\\n"
+    show_run show media.sdp
+    show_run show --json media.sdp
+    show_run show --document media.sdp
+    compare hostile_media
     body $'\e[31m.sdp' 'x=1\r\n'
     expect hostile_file_name show $'\e[31m.sdp'
+}
+
+# unread NAME LINES - a body of which the container does not hold all.
+unread() {
+    printf '%s\n' "$2" >"$work/$1.sdp"
+    show_run show "$1.sdp"
+    show_run show --json "$1.sdp"
+    compare "unread_$1"
+}
+
+# What the container does not hold is told.
+unread_parts() {
+    cd "$work"
+    unread session 'v=0
+o=- 1 1 IN IP4 192.0.2.1
+b=AS:64
+b=X-YZ:128
+b=CT:12
+t=soon
+a=group:SRF one
+a=group:LS one
+a=group:LS one three
+a=group:FID one
+m=audio 4000 RTP/AVP 0
+a=mid:one
+b=AS:
+m=audio 4000 RTP/AVP 0
+a=rtpmap:0 PCMU/8000
+b=lots'
+    unread formats 'v=0
+o=- 1 1 IN IP4 192.0.2.1
+s=-
+t=0 0
+m=audio 4000 RTP/AVP 3 20 96 97 0 98 099 18
+a=rtpmap:96 opus/48000/2
+a=rtpmap:0 AMR/8000
+a=fmtp:0 mode-set=9
+a=rtpmap:98 EVRC1/8000
+a=fmtp:98 fixedrate=2
+a=rtpmap:18 G729/8000
+a=ptime:soon
+m=video 4002 RTP/AVPF 96 97
+a=rtpmap:96 H264/90000
+a=fmtp:96 sar-understood=13;packetization-mode=x;profile-level-id='"$(printf 'f%.0s' $(seq 130))"'
+a=rtpmap:97 H263-1998/90000
+a=fmtp:97 P=7;CUSTOM=1,2
+a=rtcp-fb:96 ccm fir
+a=rtcp-fb:* nack rpsi
+m=audio 4004 RTP/AVP 96
+a=rtpmap:96 EVRCWB/16000
+a=fmtp:96 sendmode=8'
+    unread lines 'v=0
+o=- 1 1 IN IP4 192.0.2.1
+s=-
+t=0 0
+m=audio 4000 RTP/AVP 0
+c=IN IP5 192.0.2.1
+a=rtpmap:0 PCMU/8000
+m=audio 4000 RTP/AVP 0
+a=mid:longer-than-twenty-characters
+m=audio 4000 RTP/AVP 0
+a=curr:qos local maybe
+m=text 4000 RTP/AVP 98
+m=image 4000 udptl t38
+m=message 4000 TCP/TLS/MSRP *
+a=path:msrps://host.example.com:2855/ab;tcp
+m=message 4000 TCP/MSRP *
+a=accept-types:text/plain application/unheard-of
+a=file-selector
+a=file-selector:name:"c.gif" type:image/gif size:12
+a=file-disposition:session'
+    body part.sdp "${session}m=audio 4000 RTP/AVP 96 97 98\\r\\na=rtpmap:96 AMR/8000\\r\\na=fmtp:96 mode-set=9\\r\\na=sendonly\\r\\n"
+    expect rewritten_part rewrite part.sdp
+    body nul.sdp "${session}a=sendonly\\r\\n\\000a=inactive\\r\\n"
+    show_run show nul.sdp
+    show_run show --json nul.sdp
+    show_run rewrite nul.sdp
+    show_run show --document nul.sdp
+    compare nul_ends_body
 }
 
 # What no record holds is shown as it was received.
@@ -174,7 +322,7 @@ a=ptime : 20
 nonsense
 B
 )"
-    expect partial_codecs show codecs.sdp
+    expect partial_codecs show --document codecs.sdp
     expect_words codecs.sdp
     body feedback.sdp "${session}m=video 4000 RTP/AVPF 96 97\\r\\n%s\\nm=video 4002 RTP/AVP 96\\na=rtcp-fb:* nack\\n" "$(cat <<'B'
 a=rtcp-fb:* nack
@@ -192,7 +340,7 @@ a=curr
 a=des:qos  mandatory local sendrecv
 B
 )"
-    expect partial_feedback show feedback.sdp
+    expect partial_feedback show --document feedback.sdp
     expect_words feedback.sdp
     body messages.sdp "${session}m=message 2855 TCP/MSRP *\\r\\n%s\\n" "$(cat <<'B'
 a=accept-types:text/plain application/unheard-of
@@ -209,16 +357,14 @@ a=file-icon:http://192.0.2.1/icon
 a=file-range:7-*
 B
 )"
-    expect partial_messages show messages.sdp
+    expect partial_messages show --document messages.sdp
     expect_words messages.sdp
-    body nul.sdp "${session}a=seen\\r\\n\\000a=unseen\\r\\n"
-    expect nul_ends_body show nul.sdp
 }
 
 # refused NAME FORMAT - a body that does not parse.
 refused() {
     body "$1.sdp" "$2"
-    expect "refused_$1" show "$1.sdp"
+    show_run show "$1.sdp"
 }
 
 refused_bodies() {
@@ -238,15 +384,57 @@ refused_bodies() {
     refused media_profile "${session}a=sendrecv\\r\\n\\r\\n  m=audio 4000\\r\\na=late\\r\\n"
     refused many_formats "${session}m=audio 4000 RTP/AVP $numbers\\r\\n"
     refused many_sections "$session$sections"
+    refused twenty_one_lines "$session$(printf 'm=audio 4000 RTP/AVP 0\\r\\n%.0s' $(seq 21))"
+    refused six_groups "$session$(printf 'a=group:LS\\r\\n%.0s' $(seq 6))"
+    refused no_origin 'v=0\r\ns=-\r\nt=0 0\r\n'
+    refused no_version 'o=- 1 1 IN IP4 192.0.2.1\r\n'
+    refused short_origin 'v=0\r\no=- 1 1 IN IP4\r\n'
+    refused short_connection "${session}c=IN\\r\\n"
+    refused address_type 'v=0\r\no=- 1 1 IN IP5 192.0.2.1\r\n'
+    refused session_id 'v=0\r\no=- one 1 IN IP4 192.0.2.1\r\n'
+    compare refused_bodies
+    body refused.sdp 'v=0\r\nq=1\r\n'
+    show_run show --json refused.sdp
+    show_run show --document refused.sdp
+    show_run rewrite refused.sdp
+    compare refused_by_every_command
     body last_line.sdp "${session}m=video"
     expect refused_logged show --log last_line.sdp
 }
 
+# unwritable NAME FORMAT - a body that parses and cannot be generated again.
+unwritable() {
+    body "$1.sdp" "$2"
+    show_run rewrite "$1.sdp"
+}
+
+unwritable_bodies() {
+    local video="${session}m=video 4000 RTP/AVPF 96\\r\\n"
+    cd "$work"
+    unwritable version_one 'v=1\r\no=- 1 1 IN IP4 192.0.2.1\r\n'
+    unwritable lowest_id 'v=0\r\no=- -9223372036854775808 1 IN IP4 192.0.2.1\r\n'
+    unwritable media_type "${session}m=image 4000 RTP/AVP 96\\r\\n"
+    unwritable transport "${session}m=video 4000 RTP/SAVP 96\\r\\n"
+    unwritable no_ports "${session}m=audio 4000/0 RTP/AVP 0\\r\\n"
+    unwritable ten_preconditions "$video$(printf 'a=curr:qos local none\\r\\n%.0s' $(seq 10))"
+    unwritable precondition_type "${video}a=curr:sec local none\\r\\n"
+    unwritable feedback_text "${video}a=rtpmap:96 H264/90000\\r\\na=rtcp-fb:96 nack rpsi\\r\\n"
+    unwritable codec "${video}a=rtpmap:96 VP8/90000\\r\\na=rtcp-fb:96 nack\\r\\n"
+    unwritable long_config "${video}a=rtpmap:96 MP4V-ES/90000\\r\\na=fmtp:96 config=$(printf 'ab%.0s' $(seq 99))\\r\\n"
+    unwritable long_text "$session$(printf "m=video 4000 RTP/AVP 96\\r\\na=rtpmap:96 H264/90000\\r\\na=fmtp:96 profile-level-id=$(printf 'f%.0s' $(seq 119))\\r\\n%.0s" $(seq 20))"
+    compare unwritable_bodies
+}
+
 unusable_files() {
     cd "$work"
-    expect missing_file show missing.sdp
+    show_run show missing.sdp
+    show_run show --json missing.sdp
+    show_run show --document missing.sdp
+    show_run rewrite missing.sdp
     mkdir folder
-    expect folder show folder
+    show_run show folder
+    show_run rewrite folder
+    compare unusable_files
     { printf 's=-\r\n'; head -c 65531 /dev/zero | tr '\0' '\n'; } >long.sdp
     expect long_body show long.sdp
     head -c 65535 long.sdp >longest.sdp
@@ -254,12 +442,17 @@ unusable_files() {
 }
 
 full_disk() {
-    local status=0
-    checks=$((checks + 1))
+    local command
     cd "$examples"
-    "${tool[@]}" show minimal.sdp >/dev/full 2>"$work/err" || status=$?
-    [ "$status" = 2 ] || fail "full disk" "status $status instead of 2"
-    [ "$(cat "$work/err")" = "daksdp: standard output: cannot be written" ] || fail "full disk" "$(cat "$work/err")"
+    for command in 'show' 'show --json' 'show --document' 'rewrite'; do
+        local status=0
+        checks=$((checks + 1))
+        # shellcheck disable=SC2086
+        "${tool[@]}" $command minimal.sdp >/dev/full 2>"$work/err" || status=$?
+        [ "$status" = 2 ] || fail "$command on a full disk" "status $status instead of 2"
+        [ "$(cat "$work/err")" = "daksdp: standard output: cannot be written" ] ||
+            fail "$command on a full disk" "$(cat "$work/err")"
+    done
 }
 
 wrong_arguments() {
@@ -268,6 +461,9 @@ wrong_arguments() {
     expect_usage_error no_file 'FILE' show
     expect_usage_error unknown_option '--colour' show --colour minimal.sdp
     expect_usage_error unknown_command 'subcommand' print minimal.sdp
+    expect_usage_error two_views 'excludes' show --json --document minimal.sdp
+    expect_usage_error no_file_to_rewrite 'FILE' rewrite
+    expect_usage_error view_of_rewriting '--json' rewrite --json minimal.sdp
     expect_usage_error two_files 'small_audio_offer.sdp' show minimal.sdp small_audio_offer.sdp
 }
 
@@ -278,13 +474,18 @@ expect_told() {
     checks=$((checks + 1))
     run "$@"
     [ "$(cat "$work/status")" = 0 ] || fail "$name" "status $(cat "$work/status") instead of 0"
-    grep -qE "$pattern" "$work/out" || fail "$name" "says: $(cat "$work/out")"
+    grep -qE -e "$pattern" "$work/out" || fail "$name" "says: $(cat "$work/out")"
 }
 
 questions() {
     expect_told version '^daksdp [0-9]+\.[0-9]+\.[0-9]+$' --version
     expect_told help 'show .*body' --help
+    expect_told help_lists_rewrite 'rewrite .*SDP' --help
+    expect_told help_lists_statuses '1 .*cannot be generated' --help
     expect_told help_of_show 'FILE .*standard input' show --help
+    expect_told help_of_views '--json .*keys' show --help
+    expect_told help_of_rewrite 'FILE .*standard input' rewrite --help
+    expect_told help_of_all '--document ' --help-all
 }
 
 no_expectation_left_over() {
@@ -296,11 +497,15 @@ no_expectation_left_over() {
 }
 
 every_example
+documents
+every_codec_has_an_example
 standard_input
 log_lines
 hostile_text
+unread_parts
 lines_without_record
 refused_bodies
+unwritable_bodies
 unusable_files
 full_disk
 wrong_arguments

@@ -1,0 +1,19 @@
+// A container, written for a person.
+#ifndef DAKSDP_TOOLS_PRINT_CONTAINER_HPP
+#define DAKSDP_TOOLS_PRINT_CONTAINER_HPP
+
+#include "body.hpp"
+#include "daksdp.h"
+#include "outline.hpp"
+
+#include <span>
+
+namespace inspector {
+
+// Prints what a container holds: the session, then each media line. `lines` are those of the body that was
+// parsed: the library is asked again what it cannot read of them, part by part.
+void print_container(outline &out, const sdp_container &container, std::span<const body_line> lines);
+
+} // namespace inspector
+
+#endif
