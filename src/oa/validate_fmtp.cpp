@@ -11,27 +11,30 @@ constexpr uint32_t evrcwb_modes = 145;             // modes 0, 4 and 7
 constexpr uint32_t modes_without_fixed_rate = 144; // modes 4 and 7
 constexpr int enough_events = 16;
 
-// The log texts of one member of the EVRC family.
-struct evrc_texts {
+// The log texts of one codec's check.
+struct check_texts {
     const char *null_params;
     const char *no_config;
     const char *invalid_sendmode; // with one %d; null where every mode is good
     const char *invalid_mode_set;
 };
 
-constexpr evrc_texts evrcb_texts = {"dak_app_oa_validate_evrcb_fmtp: Null params", " No EVRCB config ",
-                                    nullptr, nullptr};
-constexpr evrc_texts evrcb0_texts = {"dak_app_oa_validate_evrcb0_fmtp: Null params", " No EVRCB0 config ",
+constexpr check_texts evrcb_texts = {"dak_app_oa_validate_evrcb_fmtp: Null params", " No EVRCB config ",
                                      nullptr, nullptr};
-constexpr evrc_texts evrcwb_texts = {"dak_app_oa_validate_evrcwb_fmtp: Null params", " No EVRCWB config ",
-                                     " Invalid sendmode for EVRCWB %d ",
-                                     " Invalid modes for mode-set-recv for EVRCWB"};
-constexpr evrc_texts evrcwb0_texts = {"dak_app_oa_validate_evrcwb0_fmtp: Null params", " No EVRCWB0 config ",
-                                      " Invalid sendmode for EVRCWB0 %d ",
-                                      " Invalid modes for mode-set-recv for EVRCWB0"};
-constexpr evrc_texts evrcwb1_texts = {"dak_app_oa_validate_evrcwb1_fmtp: Null params", " No EVRCWB1 config ",
-                                      " Invalid sendmode for EVRCWB1 %d ",
-                                      " Invalid modes for mode-set-recv for EVRCWB1"};
+constexpr check_texts evrcb0_texts = {"dak_app_oa_validate_evrcb0_fmtp: Null params", " No EVRCB0 config ",
+                                      nullptr, nullptr};
+constexpr check_texts evrcwb_texts = {"dak_app_oa_validate_evrcwb_fmtp: Null params", " No EVRCWB config ",
+                                      " Invalid sendmode for EVRCWB %d ",
+                                      " Invalid modes for mode-set-recv for EVRCWB"};
+constexpr check_texts evrcwb0_texts = {"dak_app_oa_validate_evrcwb0_fmtp: Null params", " No EVRCWB0 config ",
+                                       " Invalid sendmode for EVRCWB0 %d ",
+                                       " Invalid modes for mode-set-recv for EVRCWB0"};
+constexpr check_texts evrcwb1_texts = {"dak_app_oa_validate_evrcwb1_fmtp: Null params", " No EVRCWB1 config ",
+                                       " Invalid sendmode for EVRCWB1 %d ",
+                                       " Invalid modes for mode-set-recv for EVRCWB1"};
+
+constexpr check_texts dtmf_texts = {"dak_app_oa_validate_dtmf_fmtp: Null params", " No DTMF config ", nullptr,
+                                    nullptr};
 
 // The block of a format, or null, logged, where there is no such format.
 const sdp_codec_params *find_block(const sdp_media_line *mline, uint32_t format_index,
@@ -51,6 +54,19 @@ bool is_marked(const sdp_codec_params &params, const char *no_config)
     return false;
 }
 
+// Runs `check` on the marked block of a format.
+template <typename Block, typename Check>
+uint32_t check_format(const sdp_media_line *mline, uint32_t format_index, const check_texts &texts,
+                      Block sdp_codec_params::*block, Check check)
+{
+    const sdp_codec_params *params = find_block(mline, format_index, texts.null_params);
+    if (params == nullptr)
+        return SDP_NULL_ARGUMENT;
+    if (!is_marked(*params, texts.no_config))
+        return SDP_VALID;
+    return check(params->*block);
+}
+
 void warn_of_sendmode(bool is_present, uint32_t direction)
 {
     if (is_present && direction == SDP_RECVONLY)
@@ -66,7 +82,7 @@ template <typename Block> uint32_t check_evrcb(const Block &evrc, uint32_t direc
 }
 
 template <typename Block>
-uint32_t check_evrcwb(const Block &evrc, uint32_t direction, const evrc_texts &texts)
+uint32_t check_evrcwb(const Block &evrc, uint32_t direction, const check_texts &texts)
 {
     if (evrc.sendmode_present != 0 && (evrc.sendmode & evrcwb_modes) == 0)
         DAK_LOG(texts.invalid_sendmode, static_cast<int>(evrc.sendmode));
@@ -151,65 +167,48 @@ uint32_t dak_app_oa_validate_fmtp(uint32_t codec, uint32_t direction, uint32_t f
 uint32_t dak_app_oa_validate_evrcb_fmtp(uint32_t direction, uint32_t format_index,
                                         const sdp_media_line *mline)
 {
-    const sdp_codec_params *params = find_block(mline, format_index, evrcb_texts.null_params);
-    if (params == nullptr)
-        return SDP_NULL_ARGUMENT;
-    return is_marked(*params, evrcb_texts.no_config) ? check_evrcb(params->evrcb, direction)
-                                                     : uint32_t{SDP_VALID};
+    return check_format(mline, format_index, evrcb_texts, &sdp_codec_params::evrcb,
+                        [=](const sdp_evrcb_params &evrc) { return check_evrcb(evrc, direction); });
 }
 
 uint32_t dak_app_oa_validate_evrcb0_fmtp(uint32_t direction, uint32_t format_index,
                                          const sdp_media_line *mline)
 {
-    const sdp_codec_params *params = find_block(mline, format_index, evrcb0_texts.null_params);
-    if (params == nullptr)
-        return SDP_NULL_ARGUMENT;
-    return is_marked(*params, evrcb0_texts.no_config) ? check_evrcb(params->evrcb0, direction)
-                                                      : uint32_t{SDP_VALID};
+    return check_format(mline, format_index, evrcb0_texts, &sdp_codec_params::evrcb0,
+                        [=](const sdp_evrcb0_params &evrc) { return check_evrcb(evrc, direction); });
 }
 
 uint32_t dak_app_oa_validate_evrcwb_fmtp(uint32_t direction, uint32_t format_index,
                                          const sdp_media_line *mline)
 {
-    const sdp_codec_params *params = find_block(mline, format_index, evrcwb_texts.null_params);
-    if (params == nullptr)
-        return SDP_NULL_ARGUMENT;
-    if (!is_marked(*params, evrcwb_texts.no_config))
-        return SDP_VALID;
-    return check_evrcwb(params->evrcb, direction, evrcwb_texts);
+    return check_format(
+        mline, format_index, evrcwb_texts, &sdp_codec_params::evrcb,
+        [=](const sdp_evrcb_params &evrc) { return check_evrcwb(evrc, direction, evrcwb_texts); });
 }
 
 uint32_t dak_app_oa_validate_evrcwb0_fmtp(uint32_t direction, uint32_t format_index,
                                           const sdp_media_line *mline)
 {
-    const sdp_codec_params *params = find_block(mline, format_index, evrcwb0_texts.null_params);
-    if (params == nullptr)
-        return SDP_NULL_ARGUMENT;
-    if (!is_marked(*params, evrcwb0_texts.no_config))
-        return SDP_VALID;
-    return check_evrcwb(params->evrcb0, direction, evrcwb0_texts);
+    return check_format(
+        mline, format_index, evrcwb0_texts, &sdp_codec_params::evrcb0,
+        [=](const sdp_evrcb0_params &evrc) { return check_evrcwb(evrc, direction, evrcwb0_texts); });
 }
 
 uint32_t dak_app_oa_validate_evrcwb1_fmtp(uint32_t direction, uint32_t format_index,
                                           const sdp_media_line *mline)
 {
-    const sdp_codec_params *params = find_block(mline, format_index, evrcwb1_texts.null_params);
-    if (params == nullptr)
-        return SDP_NULL_ARGUMENT;
-    if (!is_marked(*params, evrcwb1_texts.no_config))
-        return SDP_VALID;
-    check_evrcwb(params->evrcwb1, direction, evrcwb1_texts);
-    return check_fixed_rate(params->evrcwb1);
+    return check_format(mline, format_index, evrcwb1_texts, &sdp_codec_params::evrcwb1,
+                        [=](const sdp_evrcwb1_params &evrc) {
+                            check_evrcwb(evrc, direction, evrcwb1_texts);
+                            return check_fixed_rate(evrc);
+                        });
 }
 
 uint32_t dak_app_oa_validate_dtmf_fmtp(uint32_t direction, uint32_t format_index, const sdp_media_line *mline)
 {
-    const sdp_codec_params *params =
-        find_block(mline, format_index, "dak_app_oa_validate_dtmf_fmtp: Null params");
-    if (params == nullptr)
-        return SDP_NULL_ARGUMENT;
-    return is_marked(*params, " No DTMF config ") ? check_events(params->tel_event, direction)
-                                                  : uint32_t{SDP_VALID};
+    return check_format(
+        mline, format_index, dtmf_texts, &sdp_codec_params::tel_event,
+        [=](const sdp_tel_event_params &tel_event) { return check_events(tel_event, direction); });
 }
 
 int dak_app_oa_form_dtmf_evt_list(const sdp_tel_event_params *block, uint16_t *events, uint8_t *num_events)
