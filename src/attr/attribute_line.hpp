@@ -53,8 +53,40 @@ int read_message_line(media_description *description, const char *line_start, co
     return 1;
 }
 
+// The setters' answer to a null description.
+inline bool is_description(const media_description *description)
+{
+    if (description == nullptr)
+        DAK_LOG("null params \n");
+    return description != nullptr;
+}
+
+template <typename Record>
+int store_record(media_description *description, Record media_description::*field, const Record &record)
+{
+    if (!is_description(description))
+        return 0;
+    description->*field = record;
+    return 1;
+}
+
 // The getters' answer to a null description.
 void report_missing_description();
+
+// Copies a record out; all zero for a null description.
+template <typename Record>
+void read_record(Record *out, const media_description *description, Record media_description::*field)
+{
+    if (out == nullptr) {
+        dak_assert_failed();
+        return;
+    }
+    *out = {};
+    if (description == nullptr)
+        report_missing_description();
+    else
+        *out = description->*field;
+}
 
 } // namespace dak
 

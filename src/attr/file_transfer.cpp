@@ -9,47 +9,17 @@ using namespace dak;
 
 namespace {
 
-bool is_there(const media_description *description)
-{
-    if (description == nullptr)
-        DAK_LOG("null params \n");
-    return description != nullptr;
-}
-
 bool is_selector(int index) { return index >= 0 && index < SDP_MAX_FILE_SELECTORS; }
-
-template <typename Record>
-int store(media_description *description, Record media_description::*field, const Record &record)
-{
-    if (!is_there(description))
-        return 0;
-    description->*field = record;
-    return 1;
-}
 
 // Keeps as much of a text as its field takes.
 int store_text(media_description *description, char (media_description::*field)[256], const char *text)
 {
-    if (!is_there(description))
+    if (!is_description(description))
         return 0;
     if (text == nullptr)
         return fail();
     copy_text(description->*field, text);
     return 1;
-}
-
-template <typename Record>
-void read(Record *out, const media_description *description, Record media_description::*field)
-{
-    if (out == nullptr) {
-        dak_assert_failed();
-        return;
-    }
-    *out = {};
-    if (description == nullptr)
-        report_missing_description();
-    else
-        *out = description->*field;
 }
 
 const char *read_text(const media_description *description, char (media_description::*field)[256])
@@ -69,12 +39,12 @@ int dak_sdp_set_media_file_transfer_id_attr(media_description *description, cons
 
 int dak_sdp_set_media_file_disposition_attr(media_description *description, sdp_file_disposition record)
 {
-    return store(description, &media_description::file_disposition, record);
+    return store_record(description, &media_description::file_disposition, record);
 }
 
 int dak_sdp_set_media_file_date_attr(media_description *description, sdp_file_date record)
 {
-    return store(description, &media_description::file_date, record);
+    return store_record(description, &media_description::file_date, record);
 }
 
 int dak_sdp_set_media_file_icon_attr(media_description *description, const char *text)
@@ -84,17 +54,17 @@ int dak_sdp_set_media_file_icon_attr(media_description *description, const char 
 
 int dak_sdp_set_media_file_range_attr(media_description *description, sdp_file_range record)
 {
-    return store(description, &media_description::file_range, record);
+    return store_record(description, &media_description::file_range, record);
 }
 
 int dak_sdp_set_media_num_of_file_selectors_attr(media_description *description, int32_t count)
 {
-    return store(description, &media_description::num_file_selectors, count);
+    return store_record(description, &media_description::num_file_selectors, count);
 }
 
 int dak_sdp_set_media_file_selector_attr(media_description *description, sdp_file_selector record, int index)
 {
-    if (!is_there(description))
+    if (!is_description(description))
         return 0;
     if (!is_selector(index))
         return fail();
@@ -110,12 +80,12 @@ const char *dak_sdp_get_message_file_transfer_id_attrs(const media_description *
 void dak_sdp_get_message_file_disposition_attrs(sdp_file_disposition *out,
                                                 const media_description *description)
 {
-    read(out, description, &media_description::file_disposition);
+    read_record(out, description, &media_description::file_disposition);
 }
 
 void dak_sdp_get_message_file_date_attrs(sdp_file_date *out, const media_description *description)
 {
-    read(out, description, &media_description::file_date);
+    read_record(out, description, &media_description::file_date);
 }
 
 const char *dak_sdp_get_message_file_icon_attrs(const media_description *description)
@@ -125,7 +95,7 @@ const char *dak_sdp_get_message_file_icon_attrs(const media_description *descrip
 
 void dak_sdp_get_message_file_range_attrs(sdp_file_range *out, const media_description *description)
 {
-    read(out, description, &media_description::file_range);
+    read_record(out, description, &media_description::file_range);
 }
 
 int32_t dak_sdp_get_message_num_of_file_selectors_attrs(const media_description *description)
