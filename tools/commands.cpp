@@ -9,8 +9,10 @@
 #include "outline.hpp"
 #include "print_container.hpp"
 #include "print_document.hpp"
+#include "print_verdict.hpp"
 #include "refusal.hpp"
 #include "result_meaning.hpp"
+#include "validation.hpp"
 
 #include <iostream>
 
@@ -75,6 +77,39 @@ template <typename Use> int with_container(const request &asked, Use use)
     return use(*received, *parsed);
 }
 
+// A verdict is on what was read, and nothing in it tells what was not.
+void warn_of_omissions(const std::string &file, const body &received, const sdp_container &container)
+{
+    warn_of_unread(file, received);
+    warn_of_parts(file, container);
+}
+
+int tell(const validation_request &asked, const sdp_container &container, const verdict &found)
+{
+    if (asked.json) {
+        std::cout << verdict_json(found) << '\n';
+    } else {
+        outline out(std::cout);
+        print_verdict(out, found, container);
+    }
+    const int status = close_output();
+    return status == exit_ok && found.code != SDP_VALID ? exit_invalid : status;
+}
+
+using comparison = verdict (*)(const sdp_container &, const sdp_container &, bool log);
+
+int compare(const validation_request &asked, comparison validate)
+{
+    return with_container(asked.body, [&](const body &received, const parsed_container &parsed) {
+        const request other = {asked.other, asked.body.log};
+        return with_container(other, [&](const body &other_received, const parsed_container &other_parsed) {
+            warn_of_omissions(asked.body.file, received, parsed.get());
+            warn_of_omissions(other.file, other_received, other_parsed.get());
+            return tell(asked, parsed.get(), validate(parsed.get(), other_parsed.get(), other.log));
+        });
+    });
+}
+
 // Only the parsing of the whole body is worth a log, not the inspector's own questions about it.
 bool parse_document(sdp_lib_context *context, const request &asked, const body &received)
 {
@@ -137,5 +172,17 @@ int rewrite(const request &asked)
         return close_output();
     });
 }
+
+int offer(const validation_request &asked)
+{
+    return with_container(asked.body, [&asked](const body &received, const parsed_container &parsed) {
+        warn_of_omissions(asked.body.file, received, parsed.get());
+        return tell(asked, parsed.get(), validate_initial_offer(parsed.get(), asked.body.log));
+    });
+}
+
+int reoffer(const validation_request &asked) { return compare(asked, validate_modified_offer); }
+
+int answer(const validation_request &asked) { return compare(asked, validate_answer); }
 
 } // namespace inspector

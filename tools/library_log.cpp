@@ -10,10 +10,12 @@
 namespace inspector {
 namespace {
 
-// Every reading of a media line without preconditions, and every generation, is told of.
+// Every reading of a media line without preconditions, every generation and every comparison is told of.
 constexpr std::string_view ordinary_lines[] = {
     "get_number_of_precond_attrs : no pcd attributes found",
     "dak_app_oa_generate_sdp: SDP out length:",
+    "Number of pylds matched ",
+    "dak_app_oa_form_dtmf_evt_list: num evts ",
 };
 
 void drop_line(int, const char *, void *) {}

@@ -15,13 +15,13 @@
 namespace {
 
 constexpr const char *about =
-    "Shows what the daksdp library reads out of an SDP body (RFC 4566), and what it\n"
-    "writes of it again.";
+    "Shows what the daksdp library reads out of an SDP body (RFC 4566) and what it\n"
+    "writes of it again, and validates offers and answers (RFC 3264).";
 constexpr const char *statuses = "Exit status:\n"
-                                 "  0  the body was shown or rewritten\n"
-                                 "  1  the body parses, but cannot be generated again\n"
+                                 "  0  the body was shown or rewritten, or is valid\n"
+                                 "  1  the body parses, but cannot be generated again, or is not valid\n"
                                  "  2  wrong arguments, or a file that cannot be read\n"
-                                 "  3  the body does not parse";
+                                 "  3  a body does not parse";
 
 std::string one_line(const CLI::App *, const CLI::Error &error)
 {
@@ -30,17 +30,48 @@ std::string one_line(const CLI::App *, const CLI::Error &error)
 
 struct arguments {
     inspector::request body;
+    std::string other;
     bool document = false;
     bool json = false;
+    int (*run)(const arguments &) = nullptr; // the command
 };
 
-void add_body(CLI::App &command, inspector::request &body)
+int run_show(const arguments &given)
 {
-    command.add_option("FILE", body.file, "The body; - for standard input")->required();
+    return given.document ? inspector::show_document(given.body)
+           : given.json   ? inspector::show_json(given.body)
+                          : inspector::show(given.body);
+}
+
+int run_rewrite(const arguments &given) { return inspector::rewrite(given.body); }
+
+template <int (*validate)(const inspector::validation_request &)> int run_validation(const arguments &given)
+{
+    return validate({given.body, given.other, given.json});
+}
+
+struct validation_command {
+    const char *name;
+    const char *about;
+    const char *file;
+    const char *other; // null without one
+    int (*run)(const arguments &);
+};
+
+constexpr validation_command validations[] = {
+    {"offer", "Validate an initial offer", "FILE", nullptr, run_validation<inspector::offer>},
+    {"reoffer", "Validate a modified offer against the previous offer of the session", "NEW", "PREVIOUS",
+     run_validation<inspector::reoffer>},
+    {"answer", "Validate an answer against its offer", "ANSWER", "OFFER", run_validation<inspector::answer>},
+};
+
+void add_body(CLI::App &command, inspector::request &body, const char *name = "FILE")
+{
+    command.add_option(name, body.file, "The body; - for standard input")->required();
     command.add_flag("--log", body.log, "Print the library's log lines to standard error as well");
 }
 
-CLI::App *add_show(CLI::App &app, arguments &given)
+void add_show(CLI::App &app, arguments &given)
 {
     CLI::App *show = app.add_subcommand("show", "Print what the container of a body holds");
     add_body(*show, given.body);
@@ -49,16 +80,34 @@ CLI::App *add_show(CLI::App &app, arguments &given)
         "Print the parser's document in its place: every line of the body, attributes as received");
     show->add_flag("--json", given.json, "Print the container as JSON, with the names of its fields as keys")
         ->excludes(document);
-    return show;
+    show->callback([&given] { given.run = run_show; });
 }
 
-CLI::App *add_rewrite(CLI::App &app, arguments &given)
+void add_rewrite(CLI::App &app, arguments &given)
 {
     CLI::App *rewrite =
         app.add_subcommand("rewrite", "Parse a body and write the SDP text that the container "
                                       "generates, with CR LF");
     add_body(*rewrite, given.body);
-    return rewrite;
+    rewrite->callback([&given] { given.run = run_rewrite; });
+}
+
+void choose_validation(arguments &given, const validation_command &row)
+{
+    if (given.body.file == "-" && given.other == "-")
+        throw CLI::ValidationError(row.name, "only one of the bodies can be standard input");
+    given.run = row.run;
+}
+
+void add_validation(CLI::App &app, arguments &given, const validation_command &row)
+{
+    CLI::App *command = app.add_subcommand(row.name, row.about);
+    add_body(*command, given.body, row.file);
+    if (row.other != nullptr)
+        command->add_option(row.other, given.other, "The body that it is compared with; - for standard input")
+            ->required();
+    command->add_flag("--json", given.json, "Print the verdict as JSON");
+    command->callback([&given, &row] { choose_validation(given, row); });
 }
 
 } // namespace
@@ -73,17 +122,15 @@ int main(int argc, char **argv)
     app.failure_message(one_line);
 
     arguments given;
-    const CLI::App *show = add_show(app, given);
+    add_show(app, given);
     add_rewrite(app, given);
+    for (const validation_command &row : validations)
+        add_validation(app, given, row);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError &error) {
         return app.exit(error) == 0 ? inspector::exit_ok : inspector::exit_unusable;
     }
     inspector::silence_library();
-    if (!show->parsed())
-        return inspector::rewrite(given.body);
-    return given.document ? inspector::show_document(given.body)
-           : given.json   ? inspector::show_json(given.body)
-                          : inspector::show(given.body);
+    return given.run(given);
 }

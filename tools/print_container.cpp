@@ -81,15 +81,6 @@ std::string joined(std::span<const body_line> lines)
     return text;
 }
 
-void print_reasons(outline &out, const std::vector<std::string> &reasons)
-{
-    if (reasons.empty())
-        return;
-    out.group("what the library says of it");
-    for (const std::string &reason : reasons)
-        out.detail("log", reason);
-}
-
 // The log of a whole body does not tell of which part it speaks, so each part is parsed once more on its own.
 void print_reasons_of(outline &out, const std::string &text)
 {
@@ -110,6 +101,15 @@ void print_container(outline &out, const sdp_container &container, std::span<con
         print_media_line(out, index + 1, container.mlines[index]);
         print_reasons_of(out, smallest_session + joined(sections[static_cast<std::size_t>(index) + 1]));
     }
+}
+
+void print_reasons(outline &out, const std::vector<std::string> &reasons)
+{
+    if (reasons.empty())
+        return;
+    out.group("what the library says of it");
+    for (const std::string &reason : reasons)
+        out.detail("log", reason);
 }
 
 } // namespace inspector

@@ -425,6 +425,181 @@ unwritable_bodies() {
     compare unwritable_bodies
 }
 
+valid_examples() {
+    cd "$examples"
+    show_run offer volte_offer.sdp
+    show_run answer volte_answer.sdp volte_offer.sdp
+    show_run answer vilte_answer.sdp vilte_offer.sdp
+    show_run reoffer hold_offer.sdp volte_offer.sdp
+    show_run answer hold_answer.sdp hold_offer.sdp
+    show_run reoffer resume_offer.sdp hold_offer.sdp
+    show_run reoffer add_video_offer.sdp resume_offer.sdp
+    show_run answer --json volte_answer.sdp volte_offer.sdp
+    compare valid_examples
+}
+
+invalid_examples() {
+    cd "$examples"
+    show_run answer answer_wrong_codec.sdp volte_offer.sdp
+    show_run answer answer_missing_line.sdp vilte_offer.sdp
+    show_run answer answer_weaker_preconditions.sdp volte_offer.sdp
+    show_run answer answer_wrong_direction.sdp hold_offer.sdp
+    show_run reoffer resume_offer.sdp add_video_offer.sdp
+    show_run offer evrc_family.sdp
+    show_run offer msrp_chat.sdp
+    show_run offer minimal.sdp
+    show_run answer --json answer_wrong_codec.sdp volte_offer.sdp
+    show_run answer --json answer_missing_line.sdp vilte_offer.sdp
+    compare invalid_examples
+}
+
+# offered NAME LINES - an offer with these lines behind those of a session.
+offered() {
+    printf 'v=0\no=- 1 1 IN IP4 192.0.2.1\ns=-\n%s\n' "$2" >"$work/$1.sdp"
+    show_run offer "$1.sdp"
+}
+
+# Each names the media line that fails, or none where the session or its groups do.
+invalid_offers() {
+    local connected='c=IN IP4 192.0.2.1
+t=0 0'
+    local audio='m=audio 4000 RTP/AVP 0'
+    cd "$work"
+    offered connection "t=0 0
+$audio
+c=IN IP4 192.0.2.2
+$audio"
+    offered bandwidth "$connected
+b=AS:0
+$audio
+a=ptime:0"
+    offered no_line "$connected"
+    offered no_formats "$connected
+$audio
+m=audio 4002 RTP/AVP opus"
+    offered codec "$connected
+$audio
+m=audio 4002 RTP/AVP 98"
+    offered events_alone "$connected
+m=audio 0 RTP/AVP 0
+m=audio 4002 RTP/AVP 97
+a=rtpmap:97 telephone-event/8000
+a=fmtp:97 0-15"
+    offered ptime "$connected
+$audio
+$audio
+$audio
+a=ptime:0"
+    offered preconditions "$connected
+$audio
+$audio
+a=curr:qos local none"
+    offered mid_missing "$connected
+a=group:FID one two
+$audio
+a=mid:one
+m=audio 4002 RTP/AVP 0
+a=mid:two
+m=audio 4004 RTP/AVP 0"
+    offered mid_repeated "$connected
+$audio
+a=mid:one
+m=audio 4002 RTP/AVP 0
+a=mid:one"
+    offered group_of_one "$connected
+a=group:LS one
+$audio
+a=mid:one"
+    offered group_of_rejected "$connected
+a=group:FID one two
+$audio
+a=mid:one
+m=audio 0 RTP/AVP 0
+a=mid:two"
+    offered group_twice "$connected
+a=group:FID one two
+a=group:FID two
+$audio
+a=mid:one
+m=audio 4002 RTP/AVP 0
+a=mid:two"
+    compare invalid_offers
+}
+
+# modified NAME FORMAT - a body validated as a modified offer against the last one, and as an answer to it.
+modified() {
+    body "$1.sdp" "$2"
+    show_run reoffer "$1.sdp" previous.sdp
+    show_run answer "$1.sdp" previous.sdp
+}
+
+invalid_changes() {
+    local start='v=0\r\no=- 1 2 IN IP4 192.0.2.1\r\ns=-\r\nc=IN IP4 192.0.2.1\r\n'
+    local one='m=audio 4000 RTP/AVP 96\r\na=rtpmap:96 AMR/8000\r\na=mid:one\r\n'
+    local two='m=video 4002 RTP/AVPF 97\r\na=rtpmap:97 H264/90000\r\na=mid:two\r\na=sendonly\r\n'
+    local received=${two/sendonly/recvonly}
+    local groups='t=0 0\r\na=group:LS one two\r\n'
+    cd "$work"
+    body previous.sdp "$start$groups$one$two"
+    modified unchanged "$start$groups$one$received"
+    modified changed_codec "$start$groups$one${received//H264/H263-1998}"
+    modified changed_mid "$start${groups/two/2}$one${received/mid:two/mid:2}"
+    modified changed_first_mid "$start${groups/one/1}${one/mid:one/mid:1}$received"
+    modified changed_direction "$start$groups$one${two/sendonly/sendrecv}"
+    modified changed_type "$start$groups${one/audio/video}$received"
+    modified two_faults "$start$groups${one//AMR/EVRC}${received}a=ptime:0\\r\\n"
+    modified faults_alike "$start$groups${one//AMR/EVRC}${received/a=rtpmap/a=x}"
+    modified no_time "$start${groups/t=0 0\\r\\n/}$one$received"
+    modified later_version "${start/1 2/1 4}$groups$one$received"
+    modified all_rejected "${start}t=0 0\\r\\n${one/4000/0}${received/4002/0}"
+    modified fewer_lines "${start}t=0 0\\r\\n$one"
+    compare invalid_changes
+}
+
+validation_warnings() {
+    cd "$work"
+    body clock.sdp 'v=0\r\no=- 1 1 IN IP4 192.0.2.1\r\ns=-\r\nc=IN IP4 192.0.2.1\r\nt=1 2\r\nm=audio 4000 RTP/AVP 0\r\nm=text 4000 RTP/AVP 98\r\n\000a=inactive\r\n'
+    show_run offer clock.sdp
+    show_run offer --json clock.sdp
+    body other_clock.sdp 'v=0\r\no=- 1 1 IN IP4 192.0.2.1\r\ns=-\r\nc=IN IP4 192.0.2.1\r\nt=3 4\r\nm=audio 4000 RTP/AVP 0\r\nm=text 0 RTP/AVP 98\r\n'
+    show_run answer other_clock.sdp clock.sdp
+    compare validation_warnings
+    cd "$examples"
+    expect log_validation answer --log volte_answer.sdp volte_offer.sdp
+}
+
+hostile_validation() {
+    local start="${session}c=IN IP4 192.0.2.1\\r\\nm=audio 4000 RTP/AVP 0\\r\\na=mid:"
+    cd "$work"
+    body mid_before.sdp "${start}a\\033[2J\\302\\233\\r\\n"
+    body mid_after.sdp "${start}b\\033]0;x\\007\\377\\r\\n"
+    show_run reoffer mid_after.sdp mid_before.sdp
+    show_run reoffer --json mid_after.sdp mid_before.sdp
+    compare hostile_validation
+}
+
+unparsable_for_validation() {
+    cd "$work"
+    body broken.sdp "${session}q=1\r\n"
+    cp "$examples/volte_offer.sdp" good.sdp
+    show_run offer broken.sdp
+    show_run offer --json broken.sdp
+    show_run reoffer good.sdp broken.sdp
+    show_run reoffer broken.sdp good.sdp
+    show_run answer good.sdp broken.sdp
+    show_run answer good.sdp missing.sdp
+    show_run answer missing.sdp broken.sdp
+    compare unparsable_for_validation
+}
+
+validation_of_standard_input() {
+    cd "$examples"
+    show_run offer - <volte_offer.sdp
+    show_run answer - volte_offer.sdp <answer_wrong_codec.sdp
+    show_run answer volte_answer.sdp - <volte_offer.sdp
+    compare validation_of_standard_input
+}
+
 unusable_files() {
     cd "$work"
     show_run show missing.sdp
@@ -444,7 +619,7 @@ unusable_files() {
 full_disk() {
     local command
     cd "$examples"
-    for command in 'show' 'show --json' 'show --document' 'rewrite'; do
+    for command in 'show' 'show --json' 'show --document' 'rewrite' 'offer' 'offer --json'; do
         local status=0
         checks=$((checks + 1))
         # shellcheck disable=SC2086
@@ -464,6 +639,12 @@ wrong_arguments() {
     expect_usage_error two_views 'excludes' show --json --document minimal.sdp
     expect_usage_error no_file_to_rewrite 'FILE' rewrite
     expect_usage_error view_of_rewriting '--json' rewrite --json minimal.sdp
+    expect_usage_error no_file_to_validate 'FILE' offer
+    expect_usage_error two_offers 'volte_offer.sdp' offer hold_offer.sdp volte_offer.sdp
+    expect_usage_error no_previous_offer 'PREVIOUS' reoffer hold_offer.sdp
+    expect_usage_error no_offer 'OFFER' answer volte_answer.sdp
+    expect_usage_error standard_input_twice 'only one' answer - -
+    expect_usage_error document_of_verdict '--document' offer --document volte_offer.sdp
     expect_usage_error two_files 'small_audio_offer.sdp' show minimal.sdp small_audio_offer.sdp
 }
 
@@ -485,6 +666,9 @@ questions() {
     expect_told help_of_show 'FILE .*standard input' show --help
     expect_told help_of_views '--json .*keys' show --help
     expect_told help_of_rewrite 'FILE .*standard input' rewrite --help
+    expect_told help_lists_answer 'answer .*against its offer' --help
+    expect_told help_of_reoffer 'PREVIOUS .*compared' reoffer --help
+    expect_told help_of_verdict '--json .*verdict' offer --help
     expect_told help_of_all '--document ' --help-all
 }
 
@@ -506,6 +690,14 @@ unread_parts
 lines_without_record
 refused_bodies
 unwritable_bodies
+valid_examples
+invalid_examples
+invalid_offers
+invalid_changes
+validation_warnings
+hostile_validation
+unparsable_for_validation
+validation_of_standard_input
 unusable_files
 full_disk
 wrong_arguments
