@@ -10,19 +10,17 @@ using namespace validation;
 namespace {
 
 using FormatValidation = PlatformTest;
-struct format {
-    uint32_t number;
-    uint32_t codec = ~0U; // or no rtpmap
-};
+using pairs = std::vector<std::pair<uint16_t, uint16_t>>;
 
-auto line_of(const std::vector<format> &formats, std::size_t count)
+// Payload numbers and codecs of a line's formats; codec 0 leaves out the rtpmap.
+auto line_of(const pairs &formats, std::size_t count)
 {
     auto line = std::make_unique<sdp_media_line>();
     line->num_formats = static_cast<uint16_t>(count);
     for (std::size_t each = 0; each < formats.size(); ++each) {
-        line->payload_numbers[each] = formats[each].number;
-        line->formats[each].has_rtpmap = formats[each].codec == ~0U ? 0 : 2;
-        line->formats[each].codec_id = formats[each].codec;
+        line->payload_numbers[each] = formats[each].first;
+        line->formats[each].has_rtpmap = formats[each].second == 0 ? 0 : 2;
+        line->formats[each].codec_id = formats[each].second;
     }
     return line;
 }
@@ -30,44 +28,34 @@ auto line_of(const std::vector<format> &formats, std::size_t count)
 TEST_F(FormatValidation, StaticPayloads)
 {
     const std::set<uint32_t> known = {0, 4, 8, 9, 18, 21, 34};
-    for (uint32_t number = 0; number < 0x20000; ++number)
+    for (uint32_t number = 0; number < 0x10100; ++number)
         EXPECT_EQ(dak_app_oa_find_mime_by_pyld_num(number), known.count(number) ? number : 114U);
-    EXPECT_EQ(dak_app_oa_find_mime_by_pyld_num(~0U), 114U);
 }
-
-using pairs = std::vector<std::pair<uint16_t, uint16_t>>; // positions in A and in B
 
 TEST_F(FormatValidation, Matching)
 {
     const std::string unknown =
         "dak_app_oa_find_matching_plds: Unknown mime                           in offer msg  \n";
     const struct {
-        const char *label;
-        std::vector<format> a, b;
+        pairs a, b;
         uint8_t by_codec;
-        pairs expected;
+        pairs expected; // positions in A and in B
         bool is_unknown = false;
     } rows[] = {
-        {"B leads", {{0}, {97}}, {{97}, {0}}, 0, {{1, 0}, {0, 1}}},
-        {"A's order within B's", {{5}, {6}, {5}}, {{6}, {5}}, 0, {{1, 0}, {0, 1}, {2, 1}}},
-        {"number, whatever the codec", {{97, 97}}, {{97, 99}}, 0, {{0, 0}}},
-        {"number, unknown codec", {{97, 114}}, {{97, 114}}, 0, {{0, 0}}},
-        {"codec, whatever the number", {{97, 97}, {98, 99}}, {{120, 99}, {121, 97}}, 2, {{1, 0}, {0, 1}}},
-        {"static and mapped", {{0}, {100, 8}}, {{8}, {96, 0}}, 1, {{1, 0}, {0, 1}}},
-        {"rtpmap of a static number", {{3, 97}}, {{96, 97}}, 1, {{0, 0}}},
-        {"unknown in front", {{97, 97}, {98, 114}}, {{98, 114}, {97, 97}}, 1, {}, true},
-        {"95 without rtpmap", {{95}}, {{95}}, 1, {}, true},
-        {"unknown in A", {{98, 114}, {97, 97}}, {{97, 97}}, 1, {{1, 0}}},
-        {"nothing in common", {{97}}, {{98}}, 0, {}},
-        {"no A, unknown B", {}, {{97, 114}}, 1, {}, true},
-        {"no B", {{97, 97}}, {}, 1, {}},
+        {{{5, 0}, {6, 0}, {5, 0}}, {{6, 0}, {5, 0}}, 0, {{1, 0}, {0, 1}, {2, 1}}}, // B leads
+        {{{97, 97}, {98, 114}}, {{98, 99}, {97, 99}}, 0, {{1, 0}, {0, 1}}},        // whatever the codec
+        {{{97, 97}, {98, 99}}, {{120, 99}, {121, 97}}, 2, {{1, 0}, {0, 1}}},       // whatever the number
+        {{{0, 0}, {100, 8}}, {{8, 0}, {3, 97}, {34, 0}}, 1, {{1, 0}}},
+        {{{97, 97}, {98, 114}}, {{98, 114}, {97, 97}}, 1, {}, true},
+        {{{98, 114}, {97, 97}}, {{97, 97}}, 1, {{1, 0}}}, // unknown in A
+        {{{97, 97}}, {}, 1, {}},
     };
     for (const auto &row : rows) {
-        SCOPED_TRACE(row.label);
+        SCOPED_TRACE(&row - rows);
         const auto a = line_of(row.a, row.a.size()), b = line_of(row.b, row.b.size());
         std::vector<uint16_t> in_a(255, 7), in_b(255, 7);
         standin::reset();
-        const uint8_t count =
+        const std::size_t count =
             dak_app_oa_find_all_matching_plds(a.get(), b.get(), in_a.data(), in_b.data(), row.by_codec);
         EXPECT_EQ(standin::texts().at(0),
                   row.is_unknown ? unknown : "Number of pylds matched " + std::to_string(count));
@@ -86,14 +74,13 @@ TEST_F(FormatValidation, Matching)
     }
     // A match in front of the unknown one is found; all matches are not.
     const auto a = line_of({{97, 97}}, 1), b = line_of({{97, 97}, {98, 114}}, 2);
-    uint16_t in_a[255], in_b[255];
-    expect_verdict("first", call(dak_app_oa_find_matching_plds, a.get(), b.get(), in_a, in_b, 1), 1, "");
-    expect_verdict("all", call(dak_app_oa_find_all_matching_plds, a.get(), b.get(), in_a, in_b, 1), 0,
-                   unknown);
-    const char null[] = "dak_app_oa_validate_media_fmts: Null                             params  \n";
+    uint16_t in[255];
+    expect_verdict("first", call(dak_app_oa_find_matching_plds, a.get(), b.get(), in, in, 1), 1);
+    expect_verdict("all", call(dak_app_oa_find_all_matching_plds, a.get(), b.get(), in, in, 1), 0, unknown);
     for (int missing = 0; missing < 4; ++missing) {
         const auto *x = missing == 0 ? nullptr : a.get(), *y = missing == 1 ? nullptr : b.get();
-        uint16_t *in_x = missing == 2 ? nullptr : in_a, *in_y = missing == 3 ? nullptr : in_b;
+        uint16_t *in_x = missing == 2 ? nullptr : in, *in_y = missing == 3 ? nullptr : in;
+        const char null[] = "dak_app_oa_validate_media_fmts: Null                             params  \n";
         expect_verdict("null", call(dak_app_oa_find_matching_plds, x, y, in_x, in_y, 0), 0, null);
         expect_verdict("null", call(dak_app_oa_find_all_matching_plds, x, y, in_x, in_y, 0), 0, null);
     }
@@ -101,24 +88,11 @@ TEST_F(FormatValidation, Matching)
 
 TEST_F(FormatValidation, MatchingAtItsLimits)
 {
-    const struct {
-        std::size_t stored, count;
-        bool are_alike;
-        uint8_t expected;
-    } rows[] = {{15, 15, true, 225},
-                {16, 16, true, 255},
-                {20, 40, true, 255},
-                {20, 40, false, 20},
-                {20, 65535, false, 20}};
-    for (const auto &row : rows) {
-        std::vector<format> formats(row.stored, {96, 97});
-        for (std::size_t each = 0; each < row.stored && !row.are_alike; ++each)
-            formats[each].number += static_cast<uint32_t>(each);
-        const auto line = line_of(formats, row.count);
+    for (const std::size_t count : {15U, 16U, 20U, 65535U}) {
+        const auto line = line_of(pairs(std::min<std::size_t>(count, 20), {96, 97}), count);
         std::vector<uint16_t> a(255), b(255);
         EXPECT_EQ(call(dak_app_oa_find_all_matching_plds, line.get(), line.get(), a.data(), b.data(), 0).code,
-                  row.expected)
-            << row.count;
+                  std::min<std::size_t>(count * count, 255));
     }
 }
 
@@ -156,11 +130,10 @@ TEST_F(FormatValidation, EveryCodecsOwnCheck)
         expect_verdict(row.name, call(row.check, 3, 0, no_line), 15, null);
     }
     const char null[] = "dak_app_oa_validate_fmtp: Null params";
-    for (uint32_t codec = 0; codec < 120; ++codec) {
+    for (uint32_t codec = 0; codec < 120; ++codec)
         expect_verdict("unmarked", call(dak_app_oa_validate_fmtp, codec, 3, 19, line), 0, reasons[codec]);
-        expect_verdict("no format", call(dak_app_oa_validate_fmtp, codec, 3, 20, line), 15, null);
-        expect_verdict("null", call(dak_app_oa_validate_fmtp, codec, 3, 0, no_line), 15, null);
-    }
+    expect_verdict("no format", call(dak_app_oa_validate_fmtp, 97, 3, 20, line), 15, null);
+    expect_verdict("null", call(dak_app_oa_validate_fmtp, 97, 3, 0, no_line), 15, null);
 }
 
 // Sets the fields that a block of the EVRC family has; -1 leaves modes out.
@@ -177,12 +150,9 @@ auto evrc(uint32_t codec, int sendmode, int modes, uint8_t fixedrate)
         if constexpr (requires { block.fixedrate; })
             block.fixedrate_present = fixedrate;
     };
-    if (codec == 110)
-        set(params.evrcwb1);
-    else if (codec == 103 || codec == 109)
-        set(params.evrcb);
-    else
-        set(params.evrcb0);
+    codec == 110                   ? set(params.evrcwb1)
+    : codec == 103 || codec == 109 ? set(params.evrcb)
+                                   : set(params.evrcb0);
     return line_with(params);
 }
 
@@ -204,18 +174,14 @@ TEST_F(FormatValidation, EvrcFamily)
         {{102, 103}, 2, 2, 0, 3, 0},
         {{102, 103}, 2, 2, 0, 1, 0, SEND},
         {{102, 103}, 2, 2, 0, 2, 0, receive},
-        {{102, 103, 108, 109, 110}, -1, -1, 1, 1, 0},
         {{102, 103, 108, 109, 110}, -1, -1, 1, 2, 0},
         {{108, 109, 110}, 1, 128, 1, 3, 0},
-        {{108, 109, 110}, 2, 16, 0, 3, 0, " Invalid sendmode for @ 2 "},
         {{108, 109, 110}, 108, 2, 0, 1, 0, all},
         {{108, 109, 110}, 255, 110, 0, 2, 0, set},
-        {{108, 109, 110}, 144, 145, 0, 4, 0},
         {{108, 109}, 144, 1, 1, 3, 0},
         {{110}, 16, 1, 1, 3, 11, RATE "16 "},
         {{110}, 129, 2, 1, 1, 11, every},
-        {{110}, 16, 1, 2, 3, 0},
-        {{110}, 111, 1, 1, 3, 0},
+        {{110}, 16, 16, 2, 3, 0},
     };
 #undef SEND
 #undef RATE
@@ -248,8 +214,7 @@ TEST_F(FormatValidation, Events)
         {"listed", events({{1, 66, 0}, {2, 0, 15}}), {0, 1, 2, 3, 4}, 0},
         {"needed", absent, {1, 3}, 11, missing},
         {"not needed", absent, {0, 2, 4}, 0},
-        {"range of one", events({{2, 5, 5}}), {1, 2, 3, 4}, 11, range},
-        {"range turned", events({{2, 0, 15}, {2, 7, 3}}), {2, 3}, 11, range},
+        {"range of one", events({{2, 0, 15}, {2, 5, 5}}), {1, 2, 3, 4}, 11, range},
         {"range behind the end", last, {2, 3}, 11, range},
         {"no range", events({{1, 7, 3}, {3, 7, 3}}), {3}, 0},
     };
@@ -274,34 +239,25 @@ TEST_F(FormatValidation, EventList)
         singles.events[each] = {1, each, 99};
     sdp_tel_event_params overlong = singles;
     overlong.events[15] = {2, 0, 255};
-    const struct {
-        const char *label;
-        sdp_tel_event_params block;
-        numbers expected;
-    } rows[] = {
-        {"nothing", events({}), {}},
-        {"16 of a range, one left out", events({{2, 0, 15}, {1, 16, 0}}), count_up({}, 0, 16)},
-        {"15 of a range and one", events({{2, 0, 14}, {1, 20, 0}, {1, 21, 0}}),
-         count_up(count_up({}, 0, 15), 20, 1)},
-        {"past 16", events({{2, 0, 3}, {2, 20, 40}, {1, 9, 0}}), count_up(count_up({}, 0, 4), 20, 21)},
-        {"16 singles", singles, count_up({}, 0, 16)},
-        {"behind a gap", events({{0, 1, 2}, {3, 1, 2}, {1, 5, 0}}), {5}},
-        {"turned", events({{2, 7, 3}, {1, 1, 0}}), {1}},
-        {"one", events({{2, 5, 5}}), {5}},
-        {"all", events({{2, 0, 255}}), count_up({}, 0, 255)},
-        {"15 and all", overlong, count_up(count_up({}, 0, 15), 0, 240)},
-        {"ends of 8 bits", events({{2, 256, 260}}), count_up({}, 0, 5)},
-        {"ends of 8 bits, turned", events({{2, 250, 300}}), {}},
-        {"single of 16 bits", events({{1, 300, 0}}), {300}},
+    const std::pair<sdp_tel_event_params, numbers> rows[] = {
+        {events({}), {}},
+        {events({{2, 0, 15}, {1, 16, 0}}), count_up({}, 0, 16)}, // 16 are enough
+        {events({{2, 0, 14}, {1, 20, 0}, {1, 21, 0}}), count_up(count_up({}, 0, 15), 20, 1)},
+        {events({{2, 0, 3}, {2, 20, 40}, {1, 9, 0}}), count_up(count_up({}, 0, 4), 20, 21)},
+        {singles, count_up({}, 0, 16)},
+        {events({{0, 1, 2}, {3, 1, 2}, {2, 7, 3}, {1, 300, 0}, {2, 5, 5}}), {300, 5}},
+        {overlong, count_up(count_up({}, 0, 15), 0, 240)},
+        {events({{2, 256, 260}}), count_up({}, 0, 5)}, // a range's ends have 8 bits
+        {events({{2, 250, 300}}), {}},
     };
-    for (const auto &row : rows) {
-        const auto block = std::make_unique<sdp_tel_event_params>(row.block);
+    for (const auto &[given, expected] : rows) {
+        SCOPED_TRACE(testing::PrintToString(expected));
+        const auto block = std::make_unique<sdp_tel_event_params>(given);
         numbers list(255);
         uint8_t count = 9;
-        EXPECT_EQ(call(dak_app_oa_form_dtmf_evt_list, block.get(), list.data(), &count).code, 1U)
-            << row.label;
+        EXPECT_EQ(call(dak_app_oa_form_dtmf_evt_list, block.get(), list.data(), &count).code, 1U);
         list.resize(count);
-        EXPECT_EQ(list, row.expected) << row.label;
+        EXPECT_EQ(list, expected);
         EXPECT_EQ(standin::texts().at(0), "dak_app_oa_form_dtmf_evt_list: num evts " + std::to_string(count));
     }
     numbers list(255);
