@@ -111,10 +111,11 @@ TEST_F(FileTransfer, lines_are_read)
         {{"range:"}, refused},
         {{"selector:name:\"My cool: picture.jpg\" type:image/jpeg size:32349 hash:sha-1:" + hash},
          {1, "count<1> selector<My cool: picture.jpg|5|32349|0|59|" + hash + ">"}},
-        {{"selector:size:1  type:image/png", "selector:type:image/bmp name:\"\"",
+        {{"selector:size:1 \ttype:image/png name: \"x\"", "selector:type:image/bmp name:\"\"",
           "selector: type:image/gif "},
-         {1, "count<3> selector<|6|1|0|0|> selector<|7|0|0|0|> selector<|8|0|0|0|>"}},
-        {{"selector:type:text/plain hash:sha-256:AA:BB owner:alice size:1"}, {1, "count<1> " + stored_one}},
+         {1, "count<3> selector<x|6|1|0|0|> selector<|7|0|0|0|> selector<|8|0|0|0|>"}},
+        {{"selector:owner:alice name:plain size:1 type:text/plain hash:sha-256:AA"},
+         {1, "count<1> " + stored_one}},
         {{"selector:size:99999999999"}, {1, "count<1> selector<|0|2147483647|0|0|>"}},
         {{"selector"}, {1, "count<1> selector<empty>"}},
         // One without a value sets the count to 1 and does not raise it, so the next replaces the second.
@@ -135,7 +136,7 @@ TEST_F(FileTransfer, records_are_written)
     for (const auto &[record, line] : std::vector<std::pair<sdp_file_selector, std::string>>{
              {{}, ":"},
              {{"x", 5, 1, 0, 0, "", 1}, ""},
-             {{"x y", 6, 4294967295U}, ":name:\"x y\" type:image/png size:4294967295 "},
+             {{"x", 6, 4294967295U}, ":name:\"x\" type:image/png size:4294967295 "},
              {{"", 4, 1}, ":size:1 "},
              {{"", 9, 1}, ":size:1 "},
              {{"", 7, 0, 0, 5, "72:24"}, ":type:image/bmp hash:sha-1:72:24"},
@@ -230,6 +231,8 @@ TEST_F(FileTransfer, records_are_copied_in_and_out)
     EXPECT_EQ(shown(section),
               "id<id> disposition<2> creation<c> modification<m> read<r> icon<i> range<-1..7> count<-9> "
               "selector<n|5|1|2|3|h>");
+    EXPECT_EQ(read_line(dak_sdp_parse_a_equal_file_selector_line, section, "a=file-selector:size:1"), 1);
+    EXPECT_EQ(dak_sdp_get_message_num_of_file_selectors_attrs(section), 1) << "reading counts from 0";
     expect_zero(dak_sdp_get_message_file_disposition_attrs, sdp_file_disposition{});
     expect_zero(dak_sdp_get_message_file_date_attrs, sdp_file_date{});
     expect_zero(dak_sdp_get_message_file_range_attrs, sdp_file_range{});

@@ -87,6 +87,8 @@ TEST_F(MediaValue, the_first_slot_of_a_name_is_used)
     }
     EXPECT_EQ(get_attr_value_by_mime("mode", names, values, present, 0), nullptr);
     EXPECT_EQ(call(set_attr_value_by_mime, "mode", "x", names, values, present, 0), dropped);
+    EXPECT_EQ(call(set_attr_value_by_mime, "mode", nullptr, names, values, present, 4), refused);
+    EXPECT_EQ(call(get_attr_value_by_mime, "mode", nullptr, values, present, 4), refused);
     EXPECT_EQ(values[0] + std::string(" ") + values[2] + " " + values[3], "unnamed second 8000");
 }
 

@@ -88,6 +88,7 @@ TEST_F(Registry, names_match_whole)
         EXPECT_EQ(dak_sdp_get_mime_val(name, &index), 0) << testing::PrintToString(name);
         EXPECT_EQ(index, 99U) << "written for a name that is found";
     }
+    EXPECT_EQ(call(dak_sdp_get_mime_val, "AMR", nullptr), refused);
 }
 
 } // namespace

@@ -75,7 +75,7 @@ TEST_F(RtcpFb, lines_become_entries)
         {{"*"}, {1, "", unread}},
         {{"* trr-int 100", "* nack pli"}, {1, "* nack pli", unread}}, // the rejected one is overwritten
         {{"* nack " + xs(199)}, {1, "* nack<" + xs(199) + ">"}},
-        {{"* nack", "* nack pli " + xs(200)}, logged(0, unsplit, "* nack")},
+        {{"* nack pli " + xs(200), "* nack"}, logged(0, unsplit, "* nack")}, // nothing of the first is left
         {{"* nack", "* nack", "* nack", "* nack", "* nack", "* ccm fir"},
          {1, "* nack, nack, nack, nack, nack", full}},
         {{"97 nack pli", "* nack", "96 nack  pli x"}, {1, "* nack; 96 nack pli<x>; 97 nack pli"}},
@@ -115,6 +115,7 @@ TEST_F(RtcpFb, only_a_feedback_section_of_its_formats_reads_lines)
     const outcome null = log_only(0, "NULL Pararms sent \n");
     EXPECT_EQ(call(read_feedback, nullptr, line, line), null);
     EXPECT_EQ(call(read_feedback, video(), nullptr, line), null);
+    EXPECT_EQ(call(read_feedback, video(), line, nullptr), refused);
 }
 
 // Both writers write the same lines, one with "*", the other with the payload number.
@@ -180,13 +181,16 @@ TEST_F(RtcpFb, lists_are_filled_by_the_caller)
     EXPECT_EQ(set(RTCP_FB_CCM, 2), (outcome{1, "* nack pli, ccm tmmbr, unsupported", odd}));
     EXPECT_EQ(set(3, 0), (outcome{1, "* nack pli, ccm tmmbr, unsupported, unsupported", odd}));
     EXPECT_EQ(set(RTCP_FB_NACK, 0), (outcome{1, "* nack pli, ccm tmmbr, unsupported, unsupported, nack"}));
-    EXPECT_EQ(set(RTCP_FB_NACK, 0).log, "RTCP fb list size overflow \n");
+    EXPECT_EQ(set(RTCP_FB_NACK, 0), log_only(0, "RTCP fb list size overflow \n",
+                                             "* nack pli, ccm tmmbr, unsupported, unsupported, nack"));
     EXPECT_EQ(written_by(dak_sdp_encode_rtcp_fb_attr, section).log, not_written);
     EXPECT_EQ(call(dak_sdp_set_media_rtcp_fb_attr, nullptr, RTCP_FB_NACK, 0), log_only(0, "null params \n"));
 
     const section_ptr other = video(), no_formats = new_section("RTP/AVPF");
     const rtcp_fb_entry pli{1, 9, 1, "x"}, unchecked{8, 9, 9, ""};
     const rtcp_fb_list two{1, 2, {pli, pli}}, one{1, 1, {unchecked}}, six{1, 6, {pli}};
+    rtcp_fb_list five{1, 5, {pli, pli, pli, pli, pli}};
+    std::memset(five.fb_entries[4].fb_param, 'x', sizeof pli.fb_param); // unterminated
     const auto add = [&](int32_t number, const rtcp_fb_list *list) {
         outcome seen = call(dak_sdp_add_media_rtcp_fb_to_media_description, other, number, list);
         seen.text = lists(other);
@@ -199,13 +203,16 @@ TEST_F(RtcpFb, lists_are_filled_by_the_caller)
         EXPECT_EQ(add(number, list), (outcome{-1, "97 899", "", true}));
     for (media_description *to : {no_formats.get(), (media_description *)nullptr})
         EXPECT_EQ(call(dak_sdp_add_media_rtcp_fb_to_media_description, to, 96, &two), logged(-1, ""));
+    rtcp_fb_kind kind{};
+    EXPECT_EQ(call(dak_sdp_add_media_rtcp_fb_to_media_description, other, 96, &five), outcome{0});
+    EXPECT_EQ(text_of(dak_sdp_get_media_rtcp_fb_type(other, &kind, 4, 0)), xs(255));
 }
 
 // Entries 0 to 4 up to and including the count are readable; callers stop at the count.
 TEST_F(RtcpFb, readers_check_their_bounds)
 {
     const section_ptr section = video();
-    for (const char *line : {"a=rtcp-fb:* nack", "a=rtcp-fb:96 nack"})
+    for (const char *line : {"a=rtcp-fb:* nack", "a=rtcp-fb:96 nack", "a=rtcp-fb:97 ccm fir"})
         read_line(dak_sdp_parse_a_equal_rtcp_fb_line, section, line);
     const outcome invalid{0, "999", "Invalid params \n"}, no_codec{0, "999", "", true}, nack{1, "nack"},
         behind{1, "99"};
@@ -229,7 +236,8 @@ TEST_F(RtcpFb, readers_check_their_bounds)
         EXPECT_EQ(seen, row.per_payload) << row.index << " of codec " << row.codec;
     }
     section->rtcp_fb.fb_count = 5;
-    EXPECT_EQ(dak_sdp_get_media_m_rtcp_fb_type(section, nullptr, 5), nullptr) << "there is no sixth entry";
+    rtcp_fb_kind sixth;
+    EXPECT_EQ(call(dak_sdp_get_media_m_rtcp_fb_type, section, &sixth, 5), log_only(0, "Invalid params \n"));
     EXPECT_EQ(call(dak_sdp_get_number_of_m_rtcp_fb_attrs, nullptr),
               log_only(-1, " invalid input argumet \n"));
     EXPECT_EQ(call(dak_sdp_get_number_of_rtcp_fb_attrs, nullptr, 0),

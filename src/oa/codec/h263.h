@@ -46,7 +46,8 @@ uint32_t dak_app_sdp_encode_h263_2000(media_description *md, uint16_t codec_inde
  * Fills the block of H263-2000. Unreadable values are left out.
  * @param md the media section
  * @param codec_index position of the payload format
- * @param[out] block an #sdp_h263_2000_params; fields of absent parameters are left alone
+ * @param[out] block an #sdp_h263_2000_params; profile, level and interlace are cleared when absent, other
+ *         fields of absent parameters are left alone
  * @return as dak_app_sdp_decode_h263_1998()
  */
 uint32_t dak_app_sdp_decode_h263_2000(media_description *md, uint16_t codec_index, void *block);
