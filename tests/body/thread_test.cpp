@@ -1,4 +1,4 @@
-// Contexts are independent: threads that each work on their own need no lock.
+// Calls are independent: threads that each work on containers of their own need no lock.
 
 #include "platform_test.h"
 
@@ -6,28 +6,28 @@
 
 #include <string>
 #include <thread>
-#include <utility>
 #include <vector>
 
 namespace {
 
-constexpr const char *body = "v=0\r\no=- 1 1 IN IP4 192.0.2.1\r\ns=-\r\nt=0 0\r\n"
+constexpr const char *body = "v=0\r\no=- 1 1 IN IP4 192.0.2.1\r\ns=-\r\nc=IN IP4 192.0.2.1\r\nt=0 0\r\n"
                              "m=audio 49170 RTP/AVP 97 101\r\n"
                              "a=rtpmap:97 AMR/8000\r\na=fmtp:97 mode-set=0,2,4,7\r\n"
                              "a=rtpmap:101 telephone-event/8000\r\na=fmtp:101 0-15\r\n";
 
-// Parses the body and writes the parsed document out again.
+// Parses the body, validates it and writes it out again.
 std::string rewrite()
 {
-    sdp_lib_context *context = init_sdp_lib();
-    std::string text;
-    if (sdp_parse(context, body, static_cast<uint32_t>(std::string(body).size())) == 1) {
-        std::swap(context->encoder_document, context->parser_document);
-        if (dak_sdp_encode(context) == 1)
-            text = get_sdp_text(context);
-    }
-    clean_sdp_lib(context);
-    return text;
+    std::string text = body;
+    sdp_payload_buffer received = {text.data(), static_cast<uint16_t>(text.size())};
+    std::string rewritten(1024, '\0');
+    sdp_payload_buffer buffer = {rewritten.data(), static_cast<uint16_t>(rewritten.size())};
+    sdp_container container = {};
+    const bool is_good = dak_app_oa_parse_sdp(&container, &received) == SDP_OA_SUCCESS &&
+                         dak_app_oa_validate_initial_offer(&container) == SDP_VALID &&
+                         dak_app_oa_generate_sdp(&container, &buffer) == SDP_OA_SUCCESS;
+    dak_app_oa_cleanup_sdp_container(&container);
+    return is_good ? rewritten : "";
 }
 
 } // namespace
