@@ -23,11 +23,6 @@ inline std::ostream &operator<<(std::ostream &out, const outcome &seen)
     return out << seen.result << ' ' << seen.text << "\n  log " << testing::PrintToString(seen.log);
 }
 
-inline outcome fails(uint32_t result, std::string log, std::string text = "")
-{
-    return {result, std::move(text), std::move(log)};
-}
-
 inline std::string replaced(std::string text, std::string_view from, std::string_view to)
 {
     for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
@@ -50,6 +45,18 @@ inline std::string log_behind(std::size_t first)
         const std::size_t length = std::min(out.find_first_not_of(' ', at), out.size()) - at;
         out.replace(at, length, "{" + std::to_string(length) + "}");
     }
+    return out;
+}
+
+// The formats of all log lines that show a value, each once and with "$" for a line feed.
+inline std::string formats_with_values()
+{
+    std::string out = "|";
+    for (const standin::log_line &line : standin::logs())
+        if (line.format.find('%') != std::string::npos &&
+            out.find("|" + line.format + "|") == std::string::npos)
+            out += line.format + "|";
+    out = replaced(out, "\n", "$");
     return out;
 }
 

@@ -207,6 +207,13 @@ TEST_F(Container, the_dump)
         "accept-wrapped-types:application/im-iscomposing+xml|a=path:msrps|a=max-size:4294967295|"
         "Media line :|Media type - unknown|Media Port = 0$|Number of ports = 0$|Unknown media profile "
         "type$|======End of SDP =======$");
+    EXPECT_EQ(
+        formats_with_values(),
+        "|version = %u$|Session Id = %llu $|Version = %llu $|Bandwidth AS :: %lu $|Bandwidth CT :: %lu $|"
+        "Bandwidth TIAS :: %lu $|Bandwidth RR :: %lu $|Invalid bandwidth mode %lu $|Time = %ld - %lu $|"
+        "Media Port = %hu$|Number of ports = %u$|Media Profile: %s|Bandwidth RS :: %lu $|a=ptime:%d$|"
+        "a=maxptime:%d$|a=framerate:%d$|a=maxprate:%d$|a=%s|RTPMAP :$Payload number= %u|"
+        "Number of channels = %u$|%d|mode set%d|Mime = Unknown: %d$|%s:%s|a=path:%s|a=max-size:%lu|");
     // Counts beyond their arrays, and lines that are only counted, are harmless.
     const body careless("dir=9 ms=3", 0),
         counts("m0.n=65535 m0.pcds=4294967295 m0.f0.fbs=255 m0.acc.n=65535 m0.over=2 m0.msg=1", 1);

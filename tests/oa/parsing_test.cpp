@@ -101,6 +101,12 @@ TEST_F(Parsing, the_other_session_lines)
         {"half a direction", "t=0 0\na=send\na=Inactive\n", 0, " t=1"},
     };
     expect_rows(head, origin, rows);
+    const std::string blank(31, ' ');
+    EXPECT_EQ(formats_with_values(),
+              "|dak_app_oa_parse_address: Error in network" + blank.substr(3) +
+                  "type: %s$|dak_app_oa_parse_bandwidth: "
+                  "Invalid BW Info:        %lu$|dak_app_oa_parse_time: Invalid Stop Time  " +
+                  blank + "Info: %lu$|dak_app_oa_parse_time: Invalid Start Time" + blank + "Info: %lu$|");
 }
 
 // A group's media lines are found by their mid; the first that is not found spoils all later groups.
