@@ -50,7 +50,8 @@ uint32_t decode_config(text_range text, sdp_mp4_es_params &mp4)
     mp4.config_len = static_cast<uint16_t>(text.length() / 2);
     mp4.config_present = 1;
     for (uint16_t i = 0; i < mp4.config_len; i++) {
-        const scanned_number octet = scan_number(text_range(text.first + size_t{2} * i, size_t{2}), 2, 16, false);
+        const scanned_number octet =
+            scan_number(text_range(text.first + size_t{2} * i, size_t{2}), 2, 16, false);
         if (!octet.is_read) {
             mp4.config_present = 0;
             return SDP_OA_SUCCESS;
