@@ -12,14 +12,6 @@ using namespace dak;
 
 namespace {
 
-// A caller's text field as a terminated text, whether the field is terminated or not.
-built_text<257> terminated(const char (&field)[256])
-{
-    built_text<257> text;
-    text.add(field_text(field));
-    return text;
-}
-
 bool store_session_records(media_description *md, const sdp_media_line &mline)
 {
     return dak_sdp_set_media_accept_attr(md, mline.accept_types) &&

@@ -23,9 +23,8 @@ void print_signed(bool is_present, const char *format, int32_t value)
 
 template <size_t N> void print_text(bool is_present, const char *format, const char (&field)[N])
 {
-    built_text<N + 1> text;
     if (is_present)
-        DAK_LOG(format, text.add(field_text(field)).c_str());
+        DAK_LOG(format, terminated(field).c_str());
 }
 
 void print_amr(const sdp_codec_params &params)

@@ -231,11 +231,9 @@ uint32_t check_change(const sdp_media_line &modified, const sdp_media_line &prev
     }
     if (modified.mid_present != 1 || have_same_mid(modified, previous))
         return SDP_VALID;
-    built_text<sizeof modified.mid + 1> now;
-    built_text<sizeof previous.mid + 1> before;
     DAK_LOG(
         "validate_modified_sdp:Mids in mod-offer dont         match with the prev-offer prev_tag %s mod_tag %s\n",
-        before.add(field_text(previous.mid)).c_str(), now.add(field_text(modified.mid)).c_str());
+        terminated(previous.mid).c_str(), terminated(modified.mid).c_str());
     return SDP_INVALID_MID;
 }
 

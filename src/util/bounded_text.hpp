@@ -80,6 +80,12 @@ private:
     char text_[Size];
 };
 
+// A field as a terminated text, whether the field is terminated or not.
+template <size_t N> built_text<N + 1> terminated(const char (&field)[N])
+{
+    return built_text<N + 1>().add(field_text(field));
+}
+
 // One line, or one piece of it, on its way to the text buffer.
 using line_builder = built_text<200>;
 

@@ -1,10 +1,9 @@
 #include "oa/codec/amr.h"
 
-#include "codec/media_value.h"
+#include "oa/codec/fmtp_reader.hpp"
 #include "oa/codec/fmtp_setter.hpp"
 #include "oa/codec/mode_list.hpp"
 #include "oa/result_code.h"
-#include "util/number.hpp"
 #include "util/report.hpp"
 
 using namespace dak;
@@ -16,11 +15,9 @@ constexpr mode_list_rule amr_modes = {
     8, 9, "dak_app_oa_get_amr_mode:Invalid AMR                                               mode :%ld\n"};
 
 // Reads the parameters of one payload format; a failed read clears the presence flag and is logged.
-class amr_reader {
+class amr_reader : public parameter_reader {
 public:
-    amr_reader(media_description *md, uint16_t codec_index) : md_(md), codec_index_(codec_index) {}
-
-    const char *text(const char *name) const { return get_media_value(md_, codec_index_, name); }
+    using parameter_reader::parameter_reader;
 
     // A number of which only `keeps(number)` is kept; `failure` prints the last number that was read so.
     template <typename Field, typename Keeps>
@@ -65,8 +62,6 @@ public:
     }
 
 private:
-    media_description *md_;
-    uint16_t codec_index_;
     int32_t last_number_ = 0;
 };
 

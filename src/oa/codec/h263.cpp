@@ -1,11 +1,10 @@
 #include "oa/codec/h263.h"
 
-#include "codec/media_value.h"
+#include "oa/codec/fmtp_reader.hpp"
 #include "oa/codec/fmtp_setter.hpp"
 #include "oa/result_code.h"
 #include "oa/truncation.hpp"
 #include "util/bounded_text.hpp"
-#include "util/number.hpp"
 #include "util/report.hpp"
 
 using namespace dak;
@@ -86,8 +85,7 @@ void write_sizes(parameter_writer &writer, const h263_params &params)
 
 void write_options(parameter_writer &writer, const h263_params &params)
 {
-    built_text<sizeof params.cpcf + 1> cpcf;
-    cpcf.add(field_text(params.cpcf));
+    const auto cpcf = terminated(params.cpcf);
     writer.text(params.p_count != 0, submode_list(params).c_str(), "P")
         .integer(params.par_present, unsigned_of(params.par), "PAR")
         .text(params.cpcf_present, cpcf.c_str(), "CPCF")
@@ -95,17 +93,9 @@ void write_options(parameter_writer &writer, const h263_params &params)
         .flag(params.hrd, 1, "HRD");
 }
 
-class h263_reader {
+class h263_reader : public parameter_reader {
 public:
-    h263_reader(media_description *md, uint16_t codec_index) : md_(md), codec_index_(codec_index) {}
-
-    const char *text(const char *name) const { return get_media_value(md_, codec_index_, name); }
-
-    void number(const char *name, uint8_t &is_present, int16_t &value) const
-    {
-        if (const char *found = text(name); found != nullptr)
-            is_present = scan_signed(found, value);
-    }
+    using parameter_reader::parameter_reader;
 
     // 1 for a number other than 0, else 0.
     void option(const char *name, uint8_t &is_set) const
@@ -125,16 +115,12 @@ public:
         if (is_present)
             value = static_cast<uint32_t>(scanned);
     }
-
-private:
-    media_description *md_;
-    uint16_t codec_index_;
 };
 
 void read_sizes(const h263_reader &reader, h263_params &params)
 {
     for (const picture_size &size : picture_sizes)
-        reader.number(size.name, params.*size.is_present, params.*size.value);
+        reader.signed_number(size.name, params.*size.is_present, params.*size.value);
     if (const char *custom = reader.text("CUSTOM"); custom != nullptr)
         params.custom_present = dak_app_sdp_parse_h263_custom_param(custom, &params) == SDP_OA_SUCCESS;
     for (const annex &option : annexes)
@@ -222,8 +208,8 @@ uint32_t dak_app_sdp_decode_h263_2000(media_description *md, uint16_t codec_inde
     h263.profile_present = 0;
     h263.level_present = 0;
     h263.interlace = 0;
-    reader.number("profile", h263.profile_present, h263.profile);
-    reader.number("level", h263.level_present, h263.level);
+    reader.signed_number("profile", h263.profile_present, h263.profile);
+    reader.signed_number("level", h263.level_present, h263.level);
     reader.option("interlace", h263.interlace);
     const uint32_t result = dak_app_sdp_decode_h263plus_params(md, codec_index, &h263.params);
     h263.fmtp_present = result == SDP_OA_SUCCESS;
@@ -252,11 +238,11 @@ uint32_t dak_app_sdp_decode_h263plus_params(media_description *md, uint16_t code
         return SDP_OA_NO_RTPMAP;
     const h263_reader reader(md, codec_index);
     read_sizes(reader, *params);
-    reader.number("PAR", params->par_present, params->par);
+    reader.signed_number("PAR", params->par_present, params->par);
     const uint32_t result = read_cpcf(reader, *params);
     if (result != SDP_OA_SUCCESS)
         return result;
-    reader.number("BPP", params->bpp_present, params->bpp);
+    reader.signed_number("BPP", params->bpp_present, params->bpp);
     reader.option("HRD", params->hrd);
     return SDP_OA_SUCCESS;
 }

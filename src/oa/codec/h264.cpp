@@ -1,10 +1,9 @@
 #include "oa/codec/h264.h"
 
-#include "codec/media_value.h"
+#include "oa/codec/fmtp_reader.hpp"
 #include "oa/codec/fmtp_setter.hpp"
 #include "oa/result_code.h"
 #include "util/bounded_text.hpp"
-#include "util/number.hpp"
 #include "util/report.hpp"
 
 using namespace dak;
@@ -13,19 +12,13 @@ namespace {
 
 constexpr size_t text_size = 120;
 
-// A caller's text field as a terminated text, whether the field is terminated or not.
-struct terminated_text {
-    char text[text_size + 1];
-    explicit terminated_text(const char (&field)[text_size]) { copy_text(text, field_text(field)); }
-};
-
-class h264_reader {
+class h264_reader : public parameter_reader {
 public:
-    h264_reader(media_description *md, uint16_t codec_index) : md_(md), codec_index_(codec_index) {}
+    using parameter_reader::parameter_reader;
 
-    void text(const char *name, uint8_t &is_present, uint16_t &length, char (&field)[text_size]) const
+    void cut_text(const char *name, uint8_t &is_present, uint16_t &length, char (&field)[text_size]) const
     {
-        const char *found = value(name);
+        const char *found = text(name);
         if (found == nullptr)
             return;
         const text_range whole(found);
@@ -35,34 +28,16 @@ public:
             length = static_cast<uint16_t>(whole.length());
     }
 
-    void small(const char *name, uint8_t &is_present, int16_t &field) const
-    {
-        if (const char *found = value(name); found != nullptr)
-            is_present = scan_signed(found, field);
-    }
-
-    void count(const char *name, uint8_t &is_present, uint32_t &field) const
-    {
-        if (const char *found = value(name); found != nullptr)
-            is_present = scan_unsigned(found, field);
-    }
-
     // Keeps the code of the first character, which is also what encoding writes.
     void character(const char *name, uint8_t &is_present, uint8_t &field) const
     {
-        const char *found = value(name);
+        const char *found = text(name);
         if (found == nullptr)
             return;
         is_present = *found != '\0';
         if (is_present)
             field = static_cast<uint8_t>(*found);
     }
-
-private:
-    const char *value(const char *name) const { return get_media_value(md_, codec_index_, name); }
-
-    media_description *md_;
-    uint16_t codec_index_;
 };
 
 } // namespace
@@ -76,18 +51,18 @@ uint32_t dak_app_sdp_encode_h264(media_description *md, uint16_t codec_index, vo
     const auto &h264 = *static_cast<const sdp_h264_params *>(block);
     if (h264.fmtp_present == 0)
         return SDP_OA_SUCCESS;
-    const terminated_text profile(h264.profile_level_id);
-    const terminated_text sets(h264.sprop_parameter_sets);
-    const terminated_text level_sets(h264.sprop_level_parameter_sets);
+    const auto profile = terminated(h264.profile_level_id);
+    const auto sets = terminated(h264.sprop_parameter_sets);
+    const auto level_sets = terminated(h264.sprop_level_parameter_sets);
     parameter_writer writer(md, codec_index);
     writer
         .integer(h264.packetization_mode_present, static_cast<uint32_t>(h264.packetization_mode),
                  "packetization-mode")
         .integer(h264.sprop_deint_buf_req_present, static_cast<uint32_t>(h264.sprop_deint_buf_req),
                  "sprop-deint-buf-req")
-        .text(h264.profile_level_id_present, profile.text, "profile-level-id")
-        .text(h264.sprop_parameter_sets_present, sets.text, "sprop-parameter-sets")
-        .text(h264.sprop_level_parameter_sets_present, level_sets.text, "sprop-level-parameter-sets")
+        .text(h264.profile_level_id_present, profile.c_str(), "profile-level-id")
+        .text(h264.sprop_parameter_sets_present, sets.c_str(), "sprop-parameter-sets")
+        .text(h264.sprop_level_parameter_sets_present, level_sets.c_str(), "sprop-level-parameter-sets")
         .integer(h264.max_rcmd_nalu_size_present, h264.max_rcmd_nalu_size, "max-rcmd-nalu-size")
         .integer(h264.sar_understood_present, h264.sar_understood, "sar-understood")
         .integer(h264.sar_supported_present, h264.sar_supported, "sar-supported")
@@ -109,15 +84,15 @@ uint32_t dak_app_sdp_decode_h264(media_description *md, uint16_t codec_index, vo
     h264.fmtp_present = 1;
     h264.h264_params_valid = 1;
     const h264_reader reader(md, codec_index);
-    reader.text("profile-level-id", h264.profile_level_id_present, h264.profile_level_id_len,
-                h264.profile_level_id);
-    reader.text("sprop-parameter-sets", h264.sprop_parameter_sets_present, h264.sprop_parameter_sets_len,
-                h264.sprop_parameter_sets);
-    reader.text("sprop-level-parameter-sets", h264.sprop_level_parameter_sets_present,
-                h264.sprop_level_parameter_sets_len, h264.sprop_level_parameter_sets);
-    reader.small("packetization-mode", h264.packetization_mode_present, h264.packetization_mode);
-    reader.small("sprop-deint-buf-req", h264.sprop_deint_buf_req_present, h264.sprop_deint_buf_req);
-    reader.count("max-rcmd-nalu-size", h264.max_rcmd_nalu_size_present, h264.max_rcmd_nalu_size);
+    reader.cut_text("profile-level-id", h264.profile_level_id_present, h264.profile_level_id_len,
+                    h264.profile_level_id);
+    reader.cut_text("sprop-parameter-sets", h264.sprop_parameter_sets_present, h264.sprop_parameter_sets_len,
+                    h264.sprop_parameter_sets);
+    reader.cut_text("sprop-level-parameter-sets", h264.sprop_level_parameter_sets_present,
+                    h264.sprop_level_parameter_sets_len, h264.sprop_level_parameter_sets);
+    reader.signed_number("packetization-mode", h264.packetization_mode_present, h264.packetization_mode);
+    reader.signed_number("sprop-deint-buf-req", h264.sprop_deint_buf_req_present, h264.sprop_deint_buf_req);
+    reader.unsigned_number("max-rcmd-nalu-size", h264.max_rcmd_nalu_size_present, h264.max_rcmd_nalu_size);
     reader.character("sar-understood", h264.sar_understood_present, h264.sar_understood);
     reader.character("sar-supported", h264.sar_supported_present, h264.sar_supported);
     reader.character("in-band-parameter-sets", h264.in_band_parameter_sets_present,

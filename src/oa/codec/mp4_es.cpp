@@ -1,6 +1,6 @@
 #include "oa/codec/mp4_es.h"
 
-#include "codec/media_value.h"
+#include "oa/codec/fmtp_reader.hpp"
 #include "oa/codec/fmtp_setter.hpp"
 #include "oa/result_code.h"
 #include "util/heap_text.hpp"
@@ -89,9 +89,9 @@ uint32_t dak_app_sdp_decode_mp4_es(media_description *md, uint16_t codec_index, 
     auto &mp4 = *static_cast<sdp_mp4_es_params *>(block);
     mp4.fmtp_present = 1;
     mp4.mp4_params_valid = 1;
-    if (const char *profile = get_media_value(md, codec_index, "profile-level-id"); profile != nullptr)
-        mp4.profile_level_id_present = scan_signed(profile, mp4.profile_level_id);
-    const char *config = get_media_value(md, codec_index, "config");
+    const parameter_reader reader(md, codec_index);
+    reader.signed_number("profile-level-id", mp4.profile_level_id_present, mp4.profile_level_id);
+    const char *config = reader.text("config");
     if (config == nullptr)
         return SDP_OA_SUCCESS;
     return decode_config(config, mp4);
