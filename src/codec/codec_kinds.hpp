@@ -3,6 +3,8 @@
 #ifndef DAKSDP_CODEC_CODEC_KINDS_HPP
 #define DAKSDP_CODEC_CODEC_KINDS_HPP
 
+#include "codec/media_info.h"
+
 // Picture sizes, annex letters and further parameters of H.263-1998 and H.263-2000 (RFC 4629).
 #define DAK_H263_PICTURE_SLOTS \
     "SQCIF", "QCIF", "CIF", "CIF4", "CIF16", "CUSTOM", "F", "I", "J", "T", "K", "N", "P", "PAR", "CPCF", \
@@ -103,5 +105,25 @@
     ROW("EVRCWB0", evrcwb0) \
     ROW("EVRCWB", evrcwb) \
     ROW("EVRCWB1", evrcwb1)
+
+namespace dak {
+
+struct codec_kind {
+    const char *const *slots;
+    uint8_t count;
+    const char *separator;
+};
+
+namespace kinds {
+
+#define DAK_KIND(kind, init, set, get, encode, separator, ...) \
+    inline constexpr const char *kind##_slots[] = {__VA_ARGS__}; \
+    static_assert(sizeof kind##_slots / sizeof *kind##_slots <= MEDIA_INFO_MAX_SLOTS); \
+    inline constexpr codec_kind kind = {kind##_slots, sizeof kind##_slots / sizeof *kind##_slots, separator};
+DAK_CODEC_KINDS(DAK_KIND)
+#undef DAK_KIND
+
+} // namespace kinds
+} // namespace dak
 
 #endif

@@ -1,6 +1,6 @@
 #include "codec/fmtp_parse.h"
 
-#include "codec/media_value.h"
+#include "codec/parameters.hpp"
 #include "codec/registry.h"
 #include "sdp/codec_access.hpp"
 #include "util/bounded_text.hpp"
@@ -10,6 +10,8 @@
 using namespace dak;
 
 namespace {
+
+constexpr size_t max_size = 200; // of a name or a value, with its terminator
 
 // Formats whose parameters may be separated by blanks; a name in other case is split at ";" alone.
 constexpr const char *blank_separated[] = {"EVRC", "EVRC0", "EVRC1", "EVRCB", "EVRCB0", "EVRCB1"};
@@ -60,7 +62,7 @@ int read_head(const media_description &description, text_range line, text_range 
 }
 
 // Stores one "name=value", or a bare value under the empty name.
-int store_parameter(media_description &description, int index, text_range piece)
+int store_parameter(media_codec &codec, const codec_kind *kind, text_range piece)
 {
     piece.skip_blanks();
     if (piece.empty() || *piece.first == '=')
@@ -69,15 +71,13 @@ int store_parameter(media_description &description, int index, text_range piece)
     text_range value = piece;
     const text_range name = has_name ? value.take_until('=').trimmed() : text_range();
     value = value.trimmed();
-    char name_text[200];
-    char value_text[200];
-    if (value.empty() || !copy_text(name_text, name) || !copy_text(value_text, value))
+    if (value.empty() || name.length() >= max_size || value.length() >= max_size)
         return fail();
-    if (set_media_value(&description, index, name_text, value_text))
+    if (kind != nullptr && set_parameter(codec, *kind, name.terminated().trimmed(), value.terminated()))
         return 1;
     // Without its name the payload format is unusable for those who look formats up by name.
     DAK_LOG("Invalid MIME or an invalid attribute\n");
-    description.codecs[index].mime_type[0] = '\0';
+    codec.mime_type[0] = '\0';
     return 0;
 }
 
@@ -91,10 +91,12 @@ int parse_a_equal_fmtp_line(media_description *description, const char *line_sta
     const int index = read_head(*description, {line_start, line_end}, rest);
     if (index < 0)
         return 0;
-    const bool at_blanks = splits_at_blanks(description->codecs[index]);
+    media_codec &codec = description->codecs[index];
+    const codec_kind *kind = find_kind(codec);
+    const bool at_blanks = splits_at_blanks(codec);
     for (text_range piece = take_piece(rest, at_blanks); !piece.empty();
          piece = take_piece(rest, at_blanks)) {
-        if (!store_parameter(*description, index, piece))
+        if (!store_parameter(codec, kind, piece))
             return 0;
     }
     return 1;

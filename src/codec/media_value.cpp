@@ -1,9 +1,8 @@
 #include "codec/media_value.h"
 
-#include "codec/registry.h"
+#include "codec/parameters.hpp"
 #include "sdp/codec_access.hpp"
 #include "util/bounded_text.hpp"
-#include "util/trim.h"
 
 using namespace dak;
 
@@ -11,56 +10,95 @@ namespace {
 
 constexpr int no_slot = -1;
 
-int find_slot(const char *name, char (*names)[200], int count)
+int find_slot(text_range name, char (*names)[200], int count)
 {
-    if (name == nullptr || *name == '\0')
-        return no_slot;
-    for (int i = 0; i < count && i < MEDIA_INFO_MAX_SLOTS; i++) {
+    for (int i = 0; !name.empty() && i < count && i < MEDIA_INFO_MAX_SLOTS; i++) {
         if (equal_ignoring_case(names[i], name))
             return i;
     }
     return no_slot;
 }
 
-// Checks the arguments that setting and getting share and makes the trimmed copy of the name.
-int prepare(const media_description *description, int index, const char *name, char (&trimmed_name)[200])
+int store(text_range name, text_range value, char (*names)[200], char (*values)[200], uint32_t *present,
+          int count)
 {
-    if (description == nullptr || name == nullptr || codec_at(description, index) == nullptr)
-        return fail();
-    if (!copy_text(trimmed_name, name)) {
-        DAK_LOG("Src str length exceeded dst str %d \n", static_cast<int>(sizeof trimmed_name));
+    const int slot = find_slot(name, names, count);
+    if (slot == no_slot) {
+        DAK_LOG("Unsupported parameter ");
+        return 1;
+    }
+    if (value.length() >= sizeof values[slot]) {
+        copy_text(values[slot], value);
+        DAK_LOG("Src str length exceeded dst str %d \n", static_cast<int>(sizeof values[slot]));
         return fail();
     }
-    dak_remove_both_space(trimmed_name);
+    copy_text(values[slot], value.trimmed_end());
+    present[slot] = 1;
     return 1;
+}
+
+// Most slots of a record are not set: their names are not looked at.
+const char *find_value(text_range name, char (*names)[200], char (*values)[200], const uint32_t *present,
+                       int count)
+{
+    for (int i = 0; !name.empty() && i < count && i < MEDIA_INFO_MAX_SLOTS; i++) {
+        if (present[i] == 1 && equal_ignoring_case(names[i], name))
+            return find_slot(name, names, i) == no_slot ? values[i] : nullptr;
+    }
+    return nullptr;
+}
+
+// The codec that setting and getting are asked for, and the name without the blanks around it.
+media_codec *prepare(const media_description *description, int index, const char *name, text_range &wanted)
+{
+    if (description == nullptr || name == nullptr)
+        return fail_null();
+    media_codec *codec = codec_at(description, index);
+    if (codec == nullptr)
+        return fail_null();
+    wanted = name;
+    constexpr size_t size = sizeof codec->info.param_name[0];
+    if (wanted.length() >= size) {
+        DAK_LOG("Src str length exceeded dst str %d \n", static_cast<int>(size));
+        return fail_null();
+    }
+    wanted = wanted.trimmed();
+    return codec;
 }
 
 } // namespace
 
+int dak::set_parameter(media_codec &codec, const codec_kind &kind, text_range name, text_range value)
+{
+    // What tells telephone-event from the other kinds: its line holds the one value without a name.
+    if (name.empty() && &kind == &kinds::telephone_event)
+        name = kind.slots[0];
+    media_info &info = codec.info;
+    return store(name, value, info.param_name, info.param_value, info.param_present, kind.count);
+}
+
+const char *dak::get_parameter(media_codec &codec, const codec_kind &kind, text_range name)
+{
+    media_info &info = codec.info;
+    return find_value(name, info.param_name, info.param_value, info.param_present, kind.count);
+}
+
 int set_media_value(media_description *description, int index, const char *name, const char *value)
 {
-    char trimmed_name[200];
-    uint32_t mime = 0;
     if (value == nullptr)
         return fail();
-    if (!prepare(description, index, name, trimmed_name))
-        return 0;
-    if (!dak_sdp_get_mime_val(description->codecs[index].mime_type, &mime))
-        return 0;
-    const dak_set_media_value_fn set = dak_g_set_media_value_by_mime_func_ptr[mime];
-    return set != nullptr ? set(description, index, trimmed_name, value) : 0;
+    text_range wanted;
+    media_codec *codec = prepare(description, index, name, wanted);
+    const codec_kind *kind = codec != nullptr ? find_kind(*codec) : nullptr;
+    return kind != nullptr ? set_parameter(*codec, *kind, wanted, value) : 0;
 }
 
 const char *get_media_value(media_description *description, int index, const char *name)
 {
-    char trimmed_name[200];
-    uint32_t mime = 0;
-    if (!prepare(description, index, name, trimmed_name))
-        return nullptr;
-    if (!dak_sdp_get_mime_val(description->codecs[index].mime_type, &mime))
-        return nullptr;
-    const dak_get_media_value_fn get = dak_g_get_media_value_by_mime_func_ptr[mime];
-    return get != nullptr ? get(description, index, trimmed_name) : nullptr;
+    text_range wanted;
+    media_codec *codec = prepare(description, index, name, wanted);
+    const codec_kind *kind = codec != nullptr ? find_kind(*codec) : nullptr;
+    return kind != nullptr ? get_parameter(*codec, *kind, wanted) : nullptr;
 }
 
 int set_attr_value_by_mime(const char *name, const char *value, char (*names)[200], char (*values)[200],
@@ -68,18 +106,7 @@ int set_attr_value_by_mime(const char *name, const char *value, char (*names)[20
 {
     if (value == nullptr || names == nullptr || values == nullptr || present == nullptr)
         return fail();
-    const int slot = find_slot(name, names, count);
-    if (slot == no_slot) {
-        DAK_LOG("Unsupported parameter ");
-        return 1;
-    }
-    if (!copy_text(values[slot], value)) {
-        DAK_LOG("Src str length exceeded dst str %d \n", static_cast<int>(sizeof values[slot]));
-        return fail();
-    }
-    present[slot] = 1;
-    dak_remove_trailing_space(values[slot]);
-    return 1;
+    return store(name != nullptr ? name : "", value, names, values, present, count);
 }
 
 const char *get_attr_value_by_mime(const char *name, char (*names)[200], char (*values)[200],
@@ -87,6 +114,5 @@ const char *get_attr_value_by_mime(const char *name, char (*names)[200], char (*
 {
     if (names == nullptr || values == nullptr || present == nullptr)
         return fail_null();
-    const int slot = find_slot(name, names, count);
-    return slot != no_slot && present[slot] == 1 ? values[slot] : nullptr;
+    return find_value(name != nullptr ? name : "", names, values, present, count);
 }

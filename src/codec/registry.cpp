@@ -1,8 +1,8 @@
 #include "codec/registry.h"
 
 #include "codec/codec_kind.h"
-#include "codec/codec_kinds.hpp"
-#include "util/ascii.hpp"
+#include "codec/parameters.hpp"
+#include "util/name_index.hpp"
 #include "util/report.hpp"
 
 using namespace dak;
@@ -10,6 +10,7 @@ using namespace dak;
 namespace {
 
 struct codec_functions {
+    const codec_kind *kind;
     dak_init_media_codec_fn init;
     dak_set_media_value_fn set;
     dak_get_media_value_fn get;
@@ -17,13 +18,14 @@ struct codec_functions {
 };
 
 #define DAK_KIND_FUNCTIONS(kind, init, set, get, encode, ...) \
-    constexpr codec_functions kind = {init, set, get, encode};
+    constexpr codec_functions kind = {&kinds::kind, init, set, get, encode};
 DAK_CODEC_KINDS(DAK_KIND_FUNCTIONS)
-constexpr codec_functions no_parameters = {nullptr, nullptr, nullptr, nullptr};
+constexpr codec_functions no_parameters = {};
 
 } // namespace
 
 #define DAK_MIME_NAME(name, kind) name,
+#define DAK_MIME_KIND(name, row) row.kind,
 #define DAK_INIT(name, kind) kind.init,
 #define DAK_SET(name, kind) kind.set,
 #define DAK_GET(name, kind) kind.get,
@@ -37,6 +39,15 @@ constexpr dak_get_media_value_fn dak_g_get_media_value_by_mime_func_ptr[MEDIA_MI
     DAK_REGISTRY(DAK_GET)};
 constexpr dak_encoder_fn dak_g_encoder_func_ptr[MEDIA_MIME_COUNT] = {DAK_REGISTRY(DAK_ENCODE)};
 
+namespace {
+
+constexpr const codec_kind *kinds_by_mime[MEDIA_MIME_COUNT] = {DAK_REGISTRY(DAK_MIME_KIND)};
+
+constexpr const char *mime_name(size_t index) { return g_media_mime[index]; }
+constexpr name_index<MEDIA_MIME_COUNT> mime_names(mime_name);
+
+} // namespace
+
 int init_media_functions(void) { return 1; }
 
 int dak_sdp_get_mime_val(const char *name, uint32_t *index)
@@ -45,11 +56,15 @@ int dak_sdp_get_mime_val(const char *name, uint32_t *index)
         return 0;
     if (index == nullptr)
         return fail();
-    for (uint32_t i = 0; i < MEDIA_MIME_COUNT; i++) {
-        if (equal_ignoring_case(g_media_mime[i], name)) {
-            *index = i;
-            return 1;
-        }
-    }
-    return 0;
+    const int found = mime_names.find(name, mime_name);
+    if (found < 0)
+        return 0;
+    *index = static_cast<uint32_t>(found);
+    return 1;
+}
+
+const codec_kind *dak::find_kind(const media_codec &codec)
+{
+    const int found = mime_names.find(field_text(codec.mime_type), mime_name);
+    return found < 0 ? nullptr : kinds_by_mime[found];
 }

@@ -15,16 +15,14 @@ constexpr unsigned char to_upper(char c)
     return byte >= 'a' && byte <= 'z' ? static_cast<unsigned char>(byte - 'a' + 'A') : byte;
 }
 
-// Compares a fixed field, terminated or not, with a terminated text, letters folded.
-template <decltype(sizeof 0) N> constexpr bool equal_ignoring_case(const char (&field)[N], const char *text)
+// Compares two texts of one length, letters folded.
+constexpr bool equal_ignoring_case(const char *a, const char *b, decltype(sizeof 0) length)
 {
-    for (decltype(N) i = 0; i < N; i++) {
-        if (to_upper(field[i]) != to_upper(text[i]))
+    for (decltype(length) i = 0; i < length; i++) {
+        if (a[i] != b[i] && to_upper(a[i]) != to_upper(b[i]))
             return false;
-        if (field[i] == '\0')
-            return true;
     }
-    return text[N] == '\0';
+    return true;
 }
 
 } // namespace dak

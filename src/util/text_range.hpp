@@ -47,13 +47,26 @@ struct text_range {
             first++;
     }
 
-    text_range trimmed() const
+    // The text in front of the first NUL.
+    text_range terminated() const
+    {
+        const char *nul = find('\0');
+        return {first, nul != nullptr ? nul : last};
+    }
+
+    text_range trimmed_end() const
     {
         text_range inner = *this;
-        while (!inner.empty() && is_white(*inner.first))
-            inner.first++;
         while (!inner.empty() && is_white(inner.last[-1]))
             inner.last--;
+        return inner;
+    }
+
+    text_range trimmed() const
+    {
+        text_range inner = trimmed_end();
+        while (!inner.empty() && is_white(*inner.first))
+            inner.first++;
         return inner;
     }
 
@@ -79,6 +92,14 @@ struct text_range {
 
 // The text of a fixed field, terminated or not.
 template <size_t N> text_range field_text(const char (&field)[N]) { return {field, strnlen(field, N)}; }
+
+// Whether a fixed field, terminated or not, holds a text that has no NUL, letters folded.
+template <size_t N> bool equal_ignoring_case(const char (&field)[N], text_range text)
+{
+    const size_t length = text.length();
+    return length <= N && equal_ignoring_case(field, text.first, length) &&
+           (length == N || field[length] == '\0');
+}
 
 } // namespace dak
 

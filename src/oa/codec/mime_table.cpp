@@ -6,7 +6,7 @@
 #include "oa/codec/h264.h"
 #include "oa/codec/mp4_es.h"
 #include "oa/codec/tel_event.h"
-#include "util/ascii.hpp"
+#include "util/name_index.hpp"
 #include "util/report.hpp"
 
 using namespace dak;
@@ -39,6 +39,13 @@ constexpr sdp_mime_entry mime_table[MIME_TABLE_ROWS] = {
     {112, "telephone-event", dak_app_sdp_encode_tel_event, dak_app_sdp_decode_tel_event},
 };
 
+namespace {
+
+constexpr const char *mime_name(size_t row) { return mime_table[row].mime_name; }
+constexpr name_index<MIME_TABLE_ROWS> mime_names(mime_name);
+
+} // namespace
+
 const sdp_mime_entry *dak_app_sdp_find_medentry_by_pt(uint32_t codec_key)
 {
     for (const sdp_mime_entry &entry : mime_table) {
@@ -49,16 +56,15 @@ const sdp_mime_entry *dak_app_sdp_find_medentry_by_pt(uint32_t codec_key)
     return nullptr;
 }
 
-const sdp_mime_entry *dak_app_sdp_find_medentry_by_mime(const char *mime_name)
+const sdp_mime_entry *dak_app_sdp_find_medentry_by_mime(const char *name)
 {
-    if (mime_name == nullptr) {
+    if (name == nullptr) {
         DAK_LOG("dak_app_sdp_find_medentry_by_mime:                             Wrong Mime params\n");
         return nullptr;
     }
-    for (const sdp_mime_entry &entry : mime_table) {
-        if (equal_ignoring_case(entry.mime_name, mime_name))
-            return &entry;
-    }
+    const int row = mime_names.find(name, mime_name);
+    if (row >= 0)
+        return &mime_table[row];
     DAK_LOG("dak_app_sdp_find_medentry_by_mime:                             No match found for Mime\n");
     return nullptr;
 }

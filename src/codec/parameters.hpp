@@ -1,0 +1,24 @@
+// Reading and writing the parameters of a record whose kind is known.
+#ifndef DAKSDP_CODEC_PARAMETERS_HPP
+#define DAKSDP_CODEC_PARAMETERS_HPP
+
+#include "codec/codec_kinds.hpp"
+#include "sdp/media_description_record.h"
+#include "util/text_range.hpp"
+
+namespace dak {
+
+// The kind that the MIME name of a record stands for; null for an unknown name and for a format without
+// parameters.
+const codec_kind *find_kind(const media_codec &codec);
+
+// Stores a value under its name; 0, reported, when it is too long. A name that the kind lacks is logged and
+// passed over. The one value of telephone-event may come without a name.
+int set_parameter(media_codec &codec, const codec_kind &kind, text_range name, text_range value);
+
+// The value under a name, or null.
+const char *get_parameter(media_codec &codec, const codec_kind &kind, text_range name);
+
+} // namespace dak
+
+#endif
