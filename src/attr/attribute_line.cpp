@@ -2,7 +2,7 @@
 
 #include "sdp/text_buffer.hpp"
 #include "util/report.hpp"
-#include "util/token.h"
+#include "util/token.hpp"
 
 namespace dak {
 
@@ -36,10 +36,11 @@ bool is_message_session(const media_description &description)
     return field_text(description.transport_profile).equals("TCP/MSRP");
 }
 
-int read_attribute_value(const char *line_start, const char *line_end, char (&value)[200])
+bool read_attribute_value(const char *line_start, const char *line_end, text_range &value)
 {
-    char name[200];
-    return get_type_and_value(line_start, line_end, name, value, nullptr, ":", "\r") == 2 ? 1 : fail();
+    const type_and_value attribute = split_type_and_value(line_start, line_end, ":", "\r");
+    value = attribute.value;
+    return attribute.parts == 2 || fail();
 }
 
 int skip_for_profile(const media_description &description)

@@ -31,7 +31,7 @@ inline bool has_read_arguments(const media_description *description, const char 
 bool is_message_session(const media_description &description);
 
 // Reads the value behind the colon of an attribute, up to the end of the line; a missing value is reported.
-int read_attribute_value(const char *line_start, const char *line_end, char (&value)[200]);
+bool read_attribute_value(const char *line_start, const char *line_end, text_range &value);
 
 // Logs that a line was skipped because of its section's profile.
 int skip_for_profile(const media_description &description);
@@ -46,10 +46,10 @@ int read_message_line(media_description *description, const char *line_start, co
         return 0;
     if (!is_message_session(*description))
         return skip_for_profile(*description);
-    char value[200];
+    text_range value;
     if (!read_attribute_value(line_start, line_end, value))
         return 0;
-    store(*description, text_range(value));
+    store(*description, value);
     return 1;
 }
 

@@ -6,7 +6,7 @@
 #include "attr/content_type.hpp"
 #include "util/number.hpp"
 #include "util/report.hpp"
-#include "util/token.h"
+#include "util/token.hpp"
 
 using namespace dak;
 
@@ -108,19 +108,17 @@ int store_selector(media_description &section, const char *line_start, const cha
     const int32_t stored = section.num_file_selectors < 0 ? 0 : section.num_file_selectors;
     if (stored >= SDP_MAX_FILE_SELECTORS)
         return 1;
-    char name[200];
-    char value[200];
-    const int parts = get_type_and_value(line_start, line_end, name, value, nullptr, ":", "\r");
-    if (parts == 0)
+    const type_and_value line = split_type_and_value(line_start, line_end, ":", "\r");
+    if (line.parts == 0)
         return fail();
     sdp_file_selector &selector = section.file_selectors[stored];
     selector = {};
-    if (parts == 2)
-        read_selector(selector, value);
+    if (line.parts == 2)
+        read_selector(selector, line.value);
     else
         selector.empty = 1;
     // A selector without a value restarts the count; callers take it for the only one.
-    section.num_file_selectors = parts == 2 ? stored + 1 : 1;
+    section.num_file_selectors = line.parts == 2 ? stored + 1 : 1;
     return 1;
 }
 

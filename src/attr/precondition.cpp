@@ -3,7 +3,7 @@
 #include "sdp/text_buffer.hpp"
 #include "util/bounded_text.hpp"
 #include "util/report.hpp"
-#include "util/token.h"
+#include "util/token.hpp"
 
 using namespace dak;
 
@@ -135,20 +135,20 @@ int parse_a_equal_pcd_line(media_description *description, const char *line_star
         DAK_LOG("parse_a_equal_pcd_line: pcd attr size exceeded\n");
         return 1;
     }
-    char type[200];
-    char value[200];
-    if (get_type_and_value(line_start, line_end, type, value, nullptr, "=", ":") != 2)
+    type_and_value line = split_type_and_value(line_start, line_end, "=", ":");
+    if (line.parts != 2)
         return fail_to_split();
-    const uint32_t kind = kind_of(value);
+    const uint32_t kind = kind_of(line.value);
     if (kind == 0) {
         DAK_LOG("parse_a_equal_pcd_line :                          unknown pcd attribute type \n");
         return fail();
     }
     description->pcd_type[description->pcd_count] = kind;
-    if (get_type_and_value(line_start, line_end, type, value, nullptr, ":", "\r") != 2)
+    line = split_type_and_value(line_start, line_end, ":", "\r");
+    if (line.parts != 2)
         return fail_to_split();
     const int entry = description->pcd_count++;
-    if (!copy_text(description->pcd_value[entry], value)) {
+    if (!copy_text(description->pcd_value[entry], line.value)) {
         DAK_LOG("str being copied exceeds %lu len \n",
                 static_cast<unsigned long>(sizeof *description->pcd_value));
         return fail();

@@ -6,7 +6,7 @@
 #include "sdp/codec_access.hpp"
 #include "util/number.h"
 #include "util/report.hpp"
-#include "util/token.h"
+#include "util/token.hpp"
 
 using namespace dak;
 
@@ -168,14 +168,12 @@ int dak_sdp_parse_a_equal_rtcp_fb_line(media_description *description, const cha
         return fail();
     if (!field_text(description->transport_profile).equals("RTP/AVPF"))
         return skip_for_profile(*description);
-    char name[200];
-    char payload[200];
-    const char *next = nullptr;
-    if (get_type_and_value(line_start, line_end, name, payload, &next, ":", nullptr) != 2)
+    const type_and_value line = split_type_and_value(line_start, line_end, ":", nullptr);
+    if (line.parts != 2)
         return fail();
-    const text_range rest = text_range(next, line_end).trimmed();
-    if (text_range(payload).equals("*"))
+    const text_range rest = text_range(line.next, line_end).trimmed();
+    if (line.value.equals("*"))
         return store_wildcard(description->rtcp_fb, rest);
     uint32_t number = 0;
-    return read_payload_number(payload, number) ? store_payloads(*description, number, rest) : 0;
+    return read_payload_number(line.value, number) ? store_payloads(*description, number, rest) : 0;
 }

@@ -5,7 +5,7 @@
 #include "sdp/codec_access.hpp"
 #include "util/bounded_text.hpp"
 #include "util/number.h"
-#include "util/token.h"
+#include "util/token.hpp"
 
 using namespace dak;
 
@@ -41,15 +41,13 @@ text_range take_piece(text_range &rest, bool at_blanks)
 // The payload format that the head of the line names; `parameters` is what follows its number.
 int read_head(const media_description &description, text_range line, text_range &parameters)
 {
-    char attribute[200];
-    char number_text[200];
-    const char *next = nullptr;
-    if (get_type_and_value(line.first, line.last, attribute, number_text, &next, ":", nullptr) != 2) {
+    const type_and_value head = split_type_and_value(line.first, line.last, ":", nullptr);
+    if (head.parts != 2) {
         dak_assert_failed();
         return -1;
     }
     uint32_t number = 0;
-    if (!dak_atoi(number_text, DAK_ATOI_LENIENT, static_cast<uint32_t>(strlen(number_text)), &number))
+    if (!dak_atoi(head.value.first, DAK_ATOI_LENIENT, static_cast<uint32_t>(head.value.length()), &number))
         return -1;
     const int index = find_payload(description, number);
     uint32_t mime = 0;
@@ -57,7 +55,7 @@ int read_head(const media_description &description, text_range line, text_range 
         dak_assert_failed();
         return -1;
     }
-    parameters = {next, line.last};
+    parameters = {head.next, line.last};
     return index;
 }
 

@@ -7,6 +7,7 @@
 #include "util/bounded_text.hpp"
 #include "util/report.hpp"
 #include "util/token.h"
+#include "util/token.hpp"
 #include "util/trim.h"
 
 using namespace dak;
@@ -15,24 +16,34 @@ namespace {
 
 constexpr size_t value_size = 200;
 
-// Formats "name:value", or "name" without a value, as far as it fits.
-bool format_attribute(char (&text)[200], text_range name, const char *value)
+bool format_attribute(char (&text)[200], text_range name, const text_range *value)
 {
     bool fits = copy_text(text, name);
     if (value == nullptr || !fits)
         return fits;
     const size_t used = name.length();
-    fits = copy_text(text + used, sizeof text - used, ":");
-    return fits && copy_text(text + used + 1, sizeof text - used - 1, value);
+    fits = copy_text(text + used, sizeof text - used, {":", size_t{1}});
+    return fits && copy_text(text + used + 1, sizeof text - used - 1, *value);
+}
+
+// Appends an attribute "name:value", or "name" alone, as far as it fits; null when it does not, reported.
+session_value *append_attribute(media_description &description, text_range name, const text_range *value)
+{
+    session_value *node = append_value(description.attributes, description.attributes_tail);
+    if (node == nullptr)
+        return nullptr;
+    if (format_attribute(node->text, name, value))
+        return node;
+    DAK_LOG("len of src str to be printed exceeded dst str len%d \n", static_cast<int>(sizeof node->text));
+    return fail_null();
 }
 
 // Fills `value` with the first word behind the colon; leaves it alone when there is none.
 void read_first_word(const char *text, char *value)
 {
-    char name[200];
-    char word[200];
-    if (get_type_and_value(text, text + strlen(text), name, word, nullptr, ":", nullptr) == 2)
-        copy_text(value, value_size, word);
+    const type_and_value attribute = split_type_and_value(text, text + strlen(text), ":", nullptr);
+    if (attribute.parts == 2)
+        copy_text(value, value_size, attribute.value);
 }
 
 int count_matches(const session_value *head, const char *name)
@@ -54,14 +65,10 @@ int set_media_description_attribute(media_description *description, const char *
 {
     if (description == nullptr || name == nullptr)
         return fail();
-    session_value *node = append_value(description->attributes, description->attributes_tail);
+    const text_range given = value != nullptr ? value : "";
+    session_value *node = append_attribute(*description, name, value != nullptr ? &given : nullptr);
     if (node == nullptr)
         return 0;
-    if (!format_attribute(node->text, name, value)) {
-        DAK_LOG("len of src str to be printed exceeded dst str len%d \n",
-                static_cast<int>(sizeof node->text));
-        return fail();
-    }
     dak_remove_both_space(node->text);
     return 1;
 }
@@ -70,8 +77,9 @@ int get_media_description_attribute(const media_description *description, const 
 {
     if (description == nullptr || name == nullptr || destination == nullptr)
         return fail();
+    const text_range wanted(name);
     for (const session_value *node = description->attributes; node != nullptr; node = node->next) {
-        if (find_type_return_value(node->text, name, ":", destination))
+        if (begins_with(node->text, wanted) && find_type_return_value(node->text, name, ":", destination))
             return 1;
     }
     return 0;
@@ -98,16 +106,14 @@ int parse_sdp_attribute(media_description *description, const char *line_start, 
 {
     if (description == nullptr || line_start == nullptr || line_end == nullptr)
         return fail();
-    char name[200];
-    char value[200];
-    const int parts = line_end - line_start < 2
-                          ? 0
-                          : get_type_and_value(line_start + 2, line_end, name, value, nullptr, ":", "\r");
-    if (parts == 0) {
+    const text_range line(line_start, line_end);
+    const type_and_value attribute =
+        line.length() < 2 ? type_and_value() : split_type_and_value(line.first + 2, line.last, ":", "\r");
+    if (attribute.parts == 0) {
         DAK_LOG("parse sdp a=, no values parsed ");
         return 0;
     }
-    if (set_media_description_attribute(description, name, parts == 2 ? value : nullptr))
+    if (append_attribute(*description, attribute.type, attribute.parts == 2 ? &attribute.value : nullptr))
         return 1;
     DAK_LOG("parse sdp a= ");
     return 0;

@@ -22,32 +22,32 @@ using namespace dak;
 namespace {
 
 struct attribute_reader {
-    const char *tag;
+    const char *name;
     int (*read)(media_description *description, const char *line_start, const char *line_end);
     const char *failure;
 };
 
-// The first tag that begins a line decides. Some failures are logged under another attribute's name; log
+// The first name that begins an attribute decides. Some failures are logged under another attribute's name; log
 // filters match on these texts.
 constexpr attribute_reader attribute_readers[] = {
-    {"a=accept-types", dak_sdp_parse_a_equal_accept_type_line, "parse accept-type err "},
-    {"a=accept-wrapped-types", dak_sdp_parse_a_equal_accept_wrapped_type_line, "parse accept-type err "},
-    {"a=path", dak_sdp_parse_a_equal_path_line, "parse accept-type err "},
-    {"a=file-transfer-id", dak_sdp_parse_a_equal_file_transfer_id_line, "parse file transfer id err "},
-    {"a=file-disposition", dak_sdp_parse_a_equal_file_disposition_line, "parse file disposition err "},
-    {"a=file-date", dak_sdp_parse_a_equal_file_date_line, "parse file date err "},
-    {"a=file-icon", dak_sdp_parse_a_equal_file_icon_line, "parse file icon err "},
-    {"a=file-range", dak_sdp_parse_a_equal_file_range_line, "parse file range err "},
-    {"a=file-selector", dak_sdp_parse_a_equal_file_selector_line, "parse file selector err "},
-    {"a=max-size", dak_sdp_parse_a_equal_max_size_line, "parse file selector err "},
-    {"a=fmtp", parse_a_equal_fmtp_line, "parse fmtp err "},
-    {"a=curr", parse_a_equal_pcd_line,
+    {"accept-types", dak_sdp_parse_a_equal_accept_type_line, "parse accept-type err "},
+    {"accept-wrapped-types", dak_sdp_parse_a_equal_accept_wrapped_type_line, "parse accept-type err "},
+    {"path", dak_sdp_parse_a_equal_path_line, "parse accept-type err "},
+    {"file-transfer-id", dak_sdp_parse_a_equal_file_transfer_id_line, "parse file transfer id err "},
+    {"file-disposition", dak_sdp_parse_a_equal_file_disposition_line, "parse file disposition err "},
+    {"file-date", dak_sdp_parse_a_equal_file_date_line, "parse file date err "},
+    {"file-icon", dak_sdp_parse_a_equal_file_icon_line, "parse file icon err "},
+    {"file-range", dak_sdp_parse_a_equal_file_range_line, "parse file range err "},
+    {"file-selector", dak_sdp_parse_a_equal_file_selector_line, "parse file selector err "},
+    {"max-size", dak_sdp_parse_a_equal_max_size_line, "parse file selector err "},
+    {"fmtp", parse_a_equal_fmtp_line, "parse fmtp err "},
+    {"curr", parse_a_equal_pcd_line,
      "process_media_attribute :                              parse pcd error \n"},
-    {"a=des", parse_a_equal_pcd_line,
+    {"des", parse_a_equal_pcd_line,
      "process_media_attribute :                              parse pcd error \n"},
-    {"a=conf", parse_a_equal_pcd_line,
+    {"conf", parse_a_equal_pcd_line,
      "process_media_attribute :                              parse pcd error \n"},
-    {"a=rtcp-fb", dak_sdp_parse_a_equal_rtcp_fb_line,
+    {"rtcp-fb", dak_sdp_parse_a_equal_rtcp_fb_line,
      "process_media_attribute :                              parse rtcp-fb error \n"},
 };
 
@@ -102,28 +102,32 @@ void read_bindings(media_description *description, const char *position, const c
     }
 }
 
-void read_structured(media_description *description, const char *line_start, const char *line_end)
+const attribute_reader *find_reader(text_range attribute)
 {
-    const text_range line(line_start, line_end);
     for (const attribute_reader &reader : attribute_readers) {
-        if (!line.begins_with(reader.tag))
-            continue;
-        if (!reader.read(description, line_start, line_end))
-            log_text(reader.failure);
-        return;
+        if (attribute.begins_with(reader.name))
+            return &reader;
     }
+    return nullptr;
 }
 
-// Every line but a=rtpmap is kept as text too, whether it was read into a record or not.
-void read_line(media_description *description, const char *line_start, const char *line_end)
+// Every attribute but rtpmap is kept as text too, whether it was read into a record or not.
+void read_attribute(media_description *description, text_range line)
 {
-    const text_range line(line_start, line_end);
-    read_structured(description, line_start, line_end);
-    if (line.begins_with("a=rtpmap"))
+    const text_range attribute(line.first + 2, line.last);
+    if (attribute.begins_with("rtpmap"))
         return;
+    const attribute_reader *reader = find_reader(attribute);
+    if (reader != nullptr && !reader->read(description, line.first, line.last))
+        log_text(reader->failure);
+    parse_sdp_attribute(description, line.first, line.last);
+}
+
+void read_line(media_description *description, text_range line)
+{
     if (line.begins_with("a="))
-        parse_sdp_attribute(description, line_start, line_end);
-    else if (!parse_media_description_value(description, line_start, line_end))
+        read_attribute(description, line);
+    else if (!parse_media_description_value(description, line.first, line.last))
         DAK_LOG("parse media attribute val ");
 }
 
@@ -137,6 +141,6 @@ int process_media_attribute(const char **position, const char *end, media_descri
     const char *line_start = nullptr;
     const char *line_end = nullptr;
     for (; next_line_of_section(*position, end, line_start, line_end); *position = line_end)
-        read_line(description, line_start, line_end);
+        read_line(description, {line_start, line_end});
     return 1;
 }

@@ -8,6 +8,7 @@
 #include "util/line_scan.h"
 #include "util/report.hpp"
 #include "util/token.h"
+#include "util/token.hpp"
 
 using namespace dak;
 
@@ -127,9 +128,10 @@ int get_session_attribute_value(sdp_lib_context *context, int selector, const ch
         return fail();
     if (find_type_return_value(document->values[attribute_slot], name, ":", destination))
         return 1;
-    for (const session_value *node = document->extra_values[attribute_slot]; node != nullptr;
-         node = node->next) {
-        if (find_type_return_value(node->text, name, ":", destination))
+    const text_range wanted(name);
+    const session_value *node = document->extra_values[attribute_slot];
+    for (; node != nullptr; node = node->next) {
+        if (begins_with(node->text, wanted) && find_type_return_value(node->text, name, ":", destination))
             return 1;
     }
     return 0;

@@ -3,6 +3,9 @@
 #include "util/ascii.hpp"
 #include "util/report.hpp"
 
+#include <stdint.h>
+#include <string.h>
+
 using namespace dak;
 
 namespace {
@@ -15,6 +18,19 @@ template <typename Predicate> const char *skip_while(const char *position, const
     while (position != end && belongs(*position))
         position++;
     return position;
+}
+
+constexpr ptrdiff_t word_size = sizeof(uint64_t);
+constexpr uint64_t each_byte = 0x0101010101010101;
+
+constexpr bool has_zero_byte(uint64_t word) { return ((word - each_byte) & ~word & each_byte << 7) != 0; }
+
+// Whether one of eight characters ends a line.
+bool has_line_term(const char *position)
+{
+    uint64_t word = 0;
+    memcpy(&word, position, sizeof word);
+    return has_zero_byte(word ^ each_byte * '\r') || has_zero_byte(word ^ each_byte * '\n');
 }
 
 } // namespace
@@ -36,6 +52,8 @@ const char *skip_whitespace_and_line_term(const char *position, const char *end)
 
 const char *skip_to_line_term(const char *position, const char *end)
 {
+    while (position != nullptr && position < end && end - position >= word_size && !has_line_term(position))
+        position += word_size;
     return skip_while(position, end, [](char c) { return !is_line_term(c); });
 }
 
@@ -52,7 +70,6 @@ const char *skip_to_char(const char *position, const char *end, char character)
 {
     if (position == nullptr || position > end)
         return fail_null();
-    while (position <= end && *position != character)
-        position++;
-    return position;
+    const void *found = memchr(position, character, static_cast<size_t>(end - position) + 1);
+    return found != nullptr ? static_cast<const char *>(found) : end + 1;
 }

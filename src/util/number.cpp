@@ -43,9 +43,10 @@ int dak_atoi(const char *text, int mode, uint32_t length, uint32_t *out)
         const uint32_t digit = digit_value(text[i], base);
         if (digit == base)
             return end_of_number(text[i], mode);
-        if (*out > (int32_max - digit) / base)
+        const uint64_t number = uint64_t{*out} * base + digit;
+        if (number > int32_max)
             return fail();
-        *out = *out * base + digit;
+        *out = static_cast<uint32_t>(number);
     }
     return 1;
 }
@@ -109,8 +110,9 @@ scanned_number dak::scan_number(text_range text, size_t width, uint32_t base, bo
         if (digit == base)
             break;
         number.is_read = true;
-        overflows = overflows || number.bits > (limit - digit) / base;
+        overflows = overflows || number.bits > (base == 10 ? UINT64_MAX / 10 : UINT64_MAX / 16);
         number.bits = number.bits * base + digit;
+        overflows = overflows || number.bits < digit || number.bits > limit;
     }
     if (overflows)
         number.bits = limit;

@@ -26,6 +26,24 @@ struct text_range {
     }
     bool equals(text_range other) const { return other.length() == length() && begins_with(other); }
 
+    // The same with terminated texts, which mostly differ within their first characters.
+    bool begins_with(const char *prefix) const
+    {
+        const char *place = first;
+        for (; *prefix != '\0'; prefix++, place++) {
+            if (place == last || *place != *prefix)
+                return false;
+        }
+        return true;
+    }
+    bool equals(const char *other) const
+    {
+        const char *place = first;
+        for (; place != last && *other != '\0' && *place == *other; other++)
+            place++;
+        return place == last && *other == '\0';
+    }
+
     // The first place of a character, or null.
     const char *find(char c) const
     {
@@ -74,7 +92,12 @@ struct text_range {
     // as one. A NUL ends the text. Empty at its end.
     text_range take_token(const char *delimiters)
     {
-        const auto delimits = [delimiters](char c) { return c != '\0' && strchr(delimiters, c) != nullptr; };
+        const auto delimits = [delimiters](char c) {
+            const char *delimiter = delimiters;
+            while (*delimiter != '\0' && *delimiter != c)
+                delimiter++;
+            return *delimiter != '\0';
+        };
         while (first != last && delimits(*first))
             first++;
         const char *start = first;

@@ -3,22 +3,20 @@
 #include "util/bounded_text.hpp"
 #include "util/line_scan.h"
 #include "util/report.hpp"
-#include "util/trim.h"
+#include "util/token.hpp"
 
 using namespace dak;
 
 namespace {
 
-constexpr size_t part_size = 200;
 constexpr size_t destination_size = 256;
 
-int take_part(char *part, text_range token)
+bool take_part(text_range token, text_range &part)
 {
     if (token.length() >= part_size)
         return fail();
-    copy_text(part, part_size, token);
-    dak_remove_both_space(part);
-    return 1;
+    part = token.terminated().trimmed();
+    return true;
 }
 
 } // namespace
@@ -38,35 +36,47 @@ int get_token(const char *base, int offset, const char *end, const char **token_
     return *token_start < *token_end;
 }
 
+type_and_value dak::split_type_and_value(const char *position, const char *end, const char *first_delimiter,
+                                         const char *second_delimiter)
+{
+    type_and_value found;
+    const char *start = nullptr;
+    const char *stop = nullptr;
+    if (!get_token(position, 0, end, &start, &stop, first_delimiter) || !take_part({start, stop}, found.type))
+        return found;
+    found.has_type = true;
+    found.next = stop;
+    const bool value_required =
+        first_delimiter != nullptr && *first_delimiter == '=' && stop <= end && *stop == '=';
+    if (!get_token(stop, 1, end, &start, &found.next, second_delimiter)) {
+        found.next = stop;
+        found.parts = value_required ? 0 : 1;
+    } else if (take_part({start, found.next}, found.value)) {
+        found.parts = 2;
+    }
+    return found;
+}
+
 int get_type_and_value(const char *position, const char *end, char *type, char *value, const char **next,
                        const char *first_delimiter, const char *second_delimiter)
 {
     if (type == nullptr || value == nullptr)
         return fail();
-    const char *start = nullptr;
-    const char *stop = nullptr;
-    if (!get_token(position, 0, end, &start, &stop, first_delimiter))
-        return 0;
-    if (!take_part(type, {start, stop}))
-        return 0;
-    const bool value_required =
-        first_delimiter != nullptr && *first_delimiter == '=' && stop <= end && *stop == '=';
-    const char *value_stop = nullptr;
-    const int parts = get_token(stop, 1, end, &start, &value_stop, second_delimiter) ? 2 : 1;
-    if (parts == 1 && value_required)
-        return 0;
-    if (parts == 2 && !take_part(value, {start, value_stop}))
-        return 0;
-    if (next != nullptr)
-        *next = parts == 2 ? value_stop : stop;
-    return parts;
+    const type_and_value found = split_type_and_value(position, end, first_delimiter, second_delimiter);
+    if (found.has_type)
+        copy_text(type, part_size, found.type);
+    if (found.parts == 2)
+        copy_text(value, part_size, found.value);
+    if (next != nullptr && found.parts != 0)
+        *next = found.next;
+    return found.parts;
 }
 
 int find_type_return_value(const char *line, const char *name, const char *separator, char *destination)
 {
     if (line == nullptr || name == nullptr || separator == nullptr || destination == nullptr)
         return fail();
-    if (strncmp(line, name, strlen(name)) != 0)
+    if (!begins_with(line, name))
         return 0;
     const char *found = strstr(line, separator);
     if (found == nullptr)
