@@ -10,10 +10,16 @@ namespace {
 
 constexpr int no_slot = -1;
 
+// Names mostly differ in their first letter.
+bool is_named(const char (&slot_name)[200], text_range name)
+{
+    return to_upper(*slot_name) == to_upper(*name.first) && equal_ignoring_case(slot_name, name);
+}
+
 int find_slot(text_range name, char (*names)[200], int count)
 {
     for (int i = 0; !name.empty() && i < count && i < MEDIA_INFO_MAX_SLOTS; i++) {
-        if (equal_ignoring_case(names[i], name))
+        if (is_named(names[i], name))
             return i;
     }
     return no_slot;
@@ -42,7 +48,7 @@ const char *find_value(text_range name, char (*names)[200], char (*values)[200],
                        int count)
 {
     for (int i = 0; !name.empty() && i < count && i < MEDIA_INFO_MAX_SLOTS; i++) {
-        if (present[i] == 1 && equal_ignoring_case(names[i], name))
+        if (present[i] == 1 && is_named(names[i], name))
             return find_slot(name, names, i) == no_slot ? values[i] : nullptr;
     }
     return nullptr;

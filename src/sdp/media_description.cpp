@@ -18,6 +18,22 @@ bool are_payloads_valid(const uint32_t *payload_numbers, int payload_count)
            (payload_count == 0 || payload_numbers != nullptr);
 }
 
+// Empties a record; of its texts, the first characters are enough. A body may name hundreds of formats, whose
+// records take 12 KB each.
+void clear(media_codec &codec)
+{
+    codec.rtpmap_valid = 0;
+    codec.mime_type[0] = '\0';
+    codec.sample_rate = 0;
+    codec.encoding_param = 0;
+    codec.rtcp_fb = {};
+    for (int slot = 0; slot < MEDIA_INFO_MAX_SLOTS; slot++) {
+        codec.info.param_name[slot][0] = '\0';
+        codec.info.param_value[slot][0] = '\0';
+        codec.info.param_present[slot] = 0;
+    }
+}
+
 // Fills a zeroed section; what has to be released on failure is the caller's.
 int fill(media_description &description, text_range media_type, text_range transport_profile,
          const uint32_t *payload_numbers, int payload_count)
@@ -49,10 +65,11 @@ int dak::allocate_codecs(media_description &description, int count)
     auto *codecs = static_cast<media_codec *>(dak_malloc(size));
     if (codecs == nullptr)
         return 0;
-    memset(codecs, 0, size);
-    if (description.codecs != nullptr)
-        memcpy(codecs, description.codecs,
-               static_cast<size_t>(description.codec_capacity) * sizeof(media_codec));
+    const int kept = description.codecs != nullptr ? description.codec_capacity : 0;
+    if (kept > 0)
+        memcpy(codecs, description.codecs, static_cast<size_t>(kept) * sizeof(media_codec));
+    for (int i = kept; i < count; i++)
+        clear(codecs[i]);
     dak_free(description.codecs);
     description.codecs = codecs;
     description.codec_capacity = count;

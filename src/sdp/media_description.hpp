@@ -7,7 +7,7 @@
 namespace dak {
 
 // Gives a section an array of exactly `count` codecs, no fewer than it has; those it has are kept and the
-// others zeroed. 0 when memory runs out, with the section as it was.
+// others empty. 0 when memory runs out, with the section as it was.
 int allocate_codecs(media_description &description, int count);
 
 } // namespace dak

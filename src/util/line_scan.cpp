@@ -23,14 +23,12 @@ template <typename Predicate> const char *skip_while(const char *position, const
 constexpr ptrdiff_t word_size = sizeof(uint64_t);
 constexpr uint64_t each_byte = 0x0101010101010101;
 
-constexpr bool has_zero_byte(uint64_t word) { return ((word - each_byte) & ~word & each_byte << 7) != 0; }
-
-// Whether one of eight characters ends a line.
-bool has_line_term(const char *position)
+// Whether one of eight characters is a control character below 16, as those that end a line are.
+bool has_control(const char *position)
 {
     uint64_t word = 0;
     memcpy(&word, position, sizeof word);
-    return has_zero_byte(word ^ each_byte * '\r') || has_zero_byte(word ^ each_byte * '\n');
+    return ((word - each_byte * 16) & ~word & each_byte << 7) != 0;
 }
 
 } // namespace
@@ -52,7 +50,7 @@ const char *skip_whitespace_and_line_term(const char *position, const char *end)
 
 const char *skip_to_line_term(const char *position, const char *end)
 {
-    while (position != nullptr && position < end && end - position >= word_size && !has_line_term(position))
+    while (position != nullptr && position < end && end - position >= word_size && !has_control(position))
         position += word_size;
     return skip_while(position, end, [](char c) { return !is_line_term(c); });
 }

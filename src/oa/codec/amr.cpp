@@ -21,7 +21,7 @@ public:
 
     // A number of which only `keeps(number)` is kept; `failure` prints the last number that was read so.
     template <typename Field, typename Keeps>
-    void reduced(const char *name, uint8_t &is_present, Field &value, Keeps keeps, const char *failure)
+    void reduced(text_range name, uint8_t &is_present, Field &value, Keeps keeps, const char *failure)
     {
         const char *found = text(name);
         if (found == nullptr)
@@ -34,14 +34,14 @@ public:
     }
 
     // 1 for a number of 1 or more, else 0.
-    void flag(const char *name, uint8_t &is_present, uint8_t &value, const char *failure)
+    void flag(text_range name, uint8_t &is_present, uint8_t &value, const char *failure)
     {
         reduced(
             name, is_present, value, [](int32_t number) { return static_cast<uint8_t>(number >= 1); },
             failure);
     }
 
-    void count(const char *name, uint8_t &is_present, uint32_t &value, const char *failure) const
+    void count(text_range name, uint8_t &is_present, uint32_t &value, const char *failure) const
     {
         const char *found = text(name);
         if (found == nullptr)
@@ -51,7 +51,7 @@ public:
             DAK_LOG(failure, static_cast<unsigned long>(value));
     }
 
-    void small(const char *name, uint8_t &is_present, int16_t &value, const char *failure) const
+    void small(text_range name, uint8_t &is_present, int16_t &value, const char *failure) const
     {
         const char *found = text(name);
         if (found == nullptr)

@@ -1,6 +1,7 @@
 #include "oa/codec/dtx.h"
 
 #include "codec/media_value.h"
+#include "oa/codec/fmtp_reader.hpp"
 #include "oa/codec/fmtp_setter.hpp"
 #include "oa/result_code.h"
 #include "util/bounded_text.hpp"
@@ -42,9 +43,9 @@ uint32_t encode_byte(media_description *md, uint16_t codec_index, uint8_t value,
     return set_media_value(md, codec_index, name, text.c_str()) == 1 ? SDP_OA_SUCCESS : SDP_OA_NO_RTPMAP;
 }
 
-void decode_silencesupp(media_description *md, uint16_t codec_index, dtx_params &dtx)
+void decode_silencesupp(const parameter_reader &reader, dtx_params &dtx)
 {
-    const char *text = get_media_value(md, codec_index, "silencesupp");
+    const char *text = reader.text("silencesupp");
     int32_t number = 0;
     if (text == nullptr)
         return;
@@ -58,9 +59,9 @@ void decode_silencesupp(media_description *md, uint16_t codec_index, dtx_params 
     }
 }
 
-uint32_t decode_byte(media_description *md, uint16_t codec_index, dtx_params &dtx, const dtx_byte &byte)
+uint32_t decode_byte(const parameter_reader &reader, dtx_params &dtx, const dtx_byte &byte)
 {
-    const char *text = get_media_value(md, codec_index, byte.name);
+    const char *text = reader.text(byte.name);
     int32_t number = 0;
     if (text == nullptr)
         return SDP_OA_SUCCESS;
@@ -96,9 +97,10 @@ uint32_t dak_app_sdp_decode_dtx(media_description *md, uint16_t codec_index, dtx
     if (md == nullptr || dtx == nullptr)
         return SDP_OA_BAD_PARAMETERS;
     *dtx = {};
-    decode_silencesupp(md, codec_index, *dtx);
+    const parameter_reader reader(md, codec_index);
+    decode_silencesupp(reader, *dtx);
     for (const dtx_byte &byte : dtx_bytes) {
-        const uint32_t result = decode_byte(md, codec_index, *dtx, byte);
+        const uint32_t result = decode_byte(reader, *dtx, byte);
         if (result != SDP_OA_SUCCESS)
             return result;
     }

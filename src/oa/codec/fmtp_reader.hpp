@@ -3,6 +3,8 @@
 #define DAKSDP_OA_CODEC_FMTP_READER_HPP
 
 #include "codec/media_value.h"
+#include "codec/parameters.hpp"
+#include "sdp/codec_access.hpp"
 #include "util/number.hpp"
 
 namespace dak {
@@ -10,18 +12,27 @@ namespace dak {
 // A field is left alone when its parameter is absent; a value that is no number clears the presence flag.
 class parameter_reader {
 public:
-    parameter_reader(media_description *md, uint16_t codec_index) : md_(md), codec_index_(codec_index) {}
+    parameter_reader(media_description *md, uint16_t codec_index) : md_(md), codec_index_(codec_index)
+    {
+        codec_ = has_codec(*md, codec_index) ? &md->codecs[codec_index] : nullptr;
+        kind_ = codec_ != nullptr ? find_kind(*codec_) : nullptr;
+    }
 
-    // The text of a parameter, or null.
-    const char *text(const char *name) const { return get_media_value(md_, codec_index_, name); }
+    // The text of a parameter, or null; asking for a codec that is not there is reported each time.
+    const char *text(text_range name) const
+    {
+        if (codec_ == nullptr)
+            return get_media_value(md_, codec_index_, name.first);
+        return kind_ != nullptr ? get_parameter(*codec_, *kind_, name) : nullptr;
+    }
 
-    template <typename Field> void signed_number(const char *name, uint8_t &is_present, Field &field) const
+    template <typename Field> void signed_number(text_range name, uint8_t &is_present, Field &field) const
     {
         if (const char *found = text(name); found != nullptr)
             is_present = scan_signed(found, field);
     }
 
-    template <typename Field> void unsigned_number(const char *name, uint8_t &is_present, Field &field) const
+    template <typename Field> void unsigned_number(text_range name, uint8_t &is_present, Field &field) const
     {
         if (const char *found = text(name); found != nullptr)
             is_present = scan_unsigned(found, field);
@@ -29,6 +40,8 @@ public:
 
 private:
     media_description *md_;
+    media_codec *codec_;
+    const codec_kind *kind_;
     uint16_t codec_index_;
 };
 

@@ -98,14 +98,14 @@ public:
     using parameter_reader::parameter_reader;
 
     // 1 for a number other than 0, else 0.
-    void option(const char *name, uint8_t &is_set) const
+    void option(text_range name, uint8_t &is_set) const
     {
         int16_t value = 0;
         if (const char *found = text(name); found != nullptr)
             is_set = scan_signed(found, value) && value != 0;
     }
 
-    void small(const char *name, uint8_t &is_present, uint32_t &value) const
+    void small(text_range name, uint8_t &is_present, uint32_t &value) const
     {
         const char *found = text(name);
         int16_t scanned = 0;

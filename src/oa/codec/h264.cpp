@@ -16,7 +16,7 @@ class h264_reader : public parameter_reader {
 public:
     using parameter_reader::parameter_reader;
 
-    void cut_text(const char *name, uint8_t &is_present, uint16_t &length, char (&field)[text_size]) const
+    void cut_text(text_range name, uint8_t &is_present, uint16_t &length, char (&field)[text_size]) const
     {
         const char *found = text(name);
         if (found == nullptr)
@@ -29,7 +29,7 @@ public:
     }
 
     // Keeps the code of the first character, which is also what encoding writes.
-    void character(const char *name, uint8_t &is_present, uint8_t &field) const
+    void character(text_range name, uint8_t &is_present, uint8_t &field) const
     {
         const char *found = text(name);
         if (found == nullptr)
