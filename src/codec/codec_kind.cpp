@@ -1,7 +1,8 @@
 #include "codec/codec_kind.h"
 
 #include "codec/fmtp_encode.h"
-#include "codec/parameters.hpp"
+#include "codec/media_value.h"
+#include "codec/codec_kinds.hpp"
 #include "sdp/codec_access.hpp"
 #include "util/bounded_text.hpp"
 
@@ -12,7 +13,7 @@ namespace {
 int write_names(char (*names)[200], const codec_kind &kind)
 {
     for (int i = 0; i < kind.count; i++) {
-        if (!copy_constant(names[i], kind.slots[i]))
+        if (!copy_constant(names[i], {kind.slots[i].text, size_t{kind.slots[i].length}}))
             return 0;
     }
     return 1;
@@ -37,14 +38,23 @@ int set_value(const codec_kind &kind, const media_description *description, int 
     media_codec *codec = codec_at(description, index);
     if (codec == nullptr)
         return 0;
-    return value != nullptr ? set_parameter(*codec, kind, name != nullptr ? name : "", value) : fail();
+    // What tells telephone-event from the other kinds: its line holds the one value without a name.
+    const bool is_nameless = name == nullptr || *name == '\0';
+    if (is_nameless && &kind == &kinds::telephone_event)
+        name = kind.slots[0].text;
+    media_info &info = codec->info;
+    return set_attr_value_by_mime(name, value, info.param_name, info.param_value, info.param_present,
+                                  kind.count);
 }
 
 const char *get_value(const codec_kind &kind, const media_description *description, int index,
                       const char *name)
 {
     media_codec *codec = codec_at(description, index);
-    return codec != nullptr ? get_parameter(*codec, kind, name != nullptr ? name : "") : nullptr;
+    if (codec == nullptr)
+        return nullptr;
+    media_info &info = codec->info;
+    return get_attr_value_by_mime(name, info.param_name, info.param_value, info.param_present, kind.count);
 }
 
 int encode(const codec_kind &kind, sdp_lib_context *context, const media_description *description, int index)

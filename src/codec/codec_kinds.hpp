@@ -5,6 +5,8 @@
 
 #include "codec/media_info.h"
 
+#include <stddef.h>
+
 // Picture sizes, annex letters and further parameters of H.263-1998 and H.263-2000 (RFC 4629).
 #define DAK_H263_PICTURE_SLOTS \
     "SQCIF", "QCIF", "CIF", "CIF4", "CIF16", "CUSTOM", "F", "I", "J", "T", "K", "N", "P", "PAR", "CPCF", \
@@ -108,8 +110,16 @@
 
 namespace dak {
 
+// A text of the library itself with its length.
+struct literal {
+    template <size_t Size> constexpr literal(const char (&chars)[Size]) : text(chars), length(Size - 1) {}
+
+    const char *text;
+    uint8_t length;
+};
+
 struct codec_kind {
-    const char *const *slots;
+    const literal *slots;
     uint8_t count;
     const char *separator;
 };
@@ -117,11 +127,12 @@ struct codec_kind {
 namespace kinds {
 
 #define DAK_KIND(kind, init, set, get, encode, separator, ...) \
-    inline constexpr const char *kind##_slots[] = {__VA_ARGS__}; \
+    inline constexpr literal kind##_slots[] = {__VA_ARGS__}; \
     static_assert(sizeof kind##_slots / sizeof *kind##_slots <= MEDIA_INFO_MAX_SLOTS); \
     inline constexpr codec_kind kind = {kind##_slots, sizeof kind##_slots / sizeof *kind##_slots, separator};
 DAK_CODEC_KINDS(DAK_KIND)
 #undef DAK_KIND
+inline constexpr codec_kind no_parameters = {nullptr, 0, ""};
 
 } // namespace kinds
 } // namespace dak

@@ -4,31 +4,43 @@
 #include "sdp/codec_access.hpp"
 #include "util/bounded_text.hpp"
 
+#include <bit>
+
 using namespace dak;
 
 namespace {
 
 constexpr int no_slot = -1;
 
-// Names mostly differ in their first letter.
-bool is_named(const char (&slot_name)[200], text_range name)
-{
-    return to_upper(*slot_name) == to_upper(*name.first) && equal_ignoring_case(slot_name, name);
-}
-
 int find_slot(text_range name, char (*names)[200], int count)
 {
     for (int i = 0; !name.empty() && i < count && i < MEDIA_INFO_MAX_SLOTS; i++) {
-        if (is_named(names[i], name))
+        if (equal_ignoring_case(names[i], name))
             return i;
     }
     return no_slot;
 }
 
-int store(text_range name, text_range value, char (*names)[200], char (*values)[200], uint32_t *present,
-          int count)
+// Whether a slot of a record bears a name. The kind's own name for it is looked at first, as its length is known;
+// the record's may have been dropped.
+bool is_named(const media_info &info, const codec_kind &kind, int slot, text_range name)
 {
-    const int slot = find_slot(name, names, count);
+    const literal &own = kind.slots[slot];
+    return own.length == name.length() && equal_ignoring_case(own.text, name.first, own.length) &&
+           equal_ignoring_case(info.param_name[slot], name);
+}
+
+int find_slot(text_range name, const media_info &info, const codec_kind &kind)
+{
+    for (int i = 0; !name.empty() && i < kind.count; i++) {
+        if (is_named(info, kind, i, name))
+            return i;
+    }
+    return no_slot;
+}
+
+int store(int slot, text_range value, char (*values)[200], uint32_t *present)
+{
     if (slot == no_slot) {
         DAK_LOG("Unsupported parameter ");
         return 1;
@@ -41,17 +53,6 @@ int store(text_range name, text_range value, char (*names)[200], char (*values)[
     copy_text(values[slot], value.trimmed_end());
     present[slot] = 1;
     return 1;
-}
-
-// Most slots of a record are not set: their names are not looked at.
-const char *find_value(text_range name, char (*names)[200], char (*values)[200], const uint32_t *present,
-                       int count)
-{
-    for (int i = 0; !name.empty() && i < count && i < MEDIA_INFO_MAX_SLOTS; i++) {
-        if (present[i] == 1 && is_named(names[i], name))
-            return find_slot(name, names, i) == no_slot ? values[i] : nullptr;
-    }
-    return nullptr;
 }
 
 // The codec that setting and getting are asked for, and the name without the blanks around it.
@@ -76,17 +77,30 @@ media_codec *prepare(const media_description *description, int index, const char
 
 int dak::set_parameter(media_codec &codec, const codec_kind &kind, text_range name, text_range value)
 {
-    // What tells telephone-event from the other kinds: its line holds the one value without a name.
+    if (kind.count == 0)
+        return 0;
     if (name.empty() && &kind == &kinds::telephone_event)
-        name = kind.slots[0];
+        name = {kind.slots[0].text, size_t{kind.slots[0].length}};
     media_info &info = codec.info;
-    return store(name, value, info.param_name, info.param_value, info.param_present, kind.count);
+    return store(find_slot(name, info, kind), value, info.param_value, info.param_present);
 }
 
-const char *dak::get_parameter(media_codec &codec, const codec_kind &kind, text_range name)
+uint32_t dak::set_slots(const media_codec &codec, const codec_kind &kind)
 {
-    media_info &info = codec.info;
-    return find_value(name, info.param_name, info.param_value, info.param_present, kind.count);
+    uint32_t slots = 0;
+    for (int i = 0; i < kind.count; i++)
+        slots |= uint32_t{codec.info.param_present[i] == 1} << i;
+    return slots;
+}
+
+const char *dak::get_parameter(media_codec &codec, const codec_kind &kind, uint32_t slots, text_range name)
+{
+    for (; !name.empty() && slots != 0; slots &= slots - 1) {
+        const int slot = std::countr_zero(slots);
+        if (is_named(codec.info, kind, slot, name))
+            return codec.info.param_value[slot];
+    }
+    return nullptr;
 }
 
 int set_media_value(media_description *description, int index, const char *name, const char *value)
@@ -104,7 +118,7 @@ const char *get_media_value(media_description *description, int index, const cha
     text_range wanted;
     media_codec *codec = prepare(description, index, name, wanted);
     const codec_kind *kind = codec != nullptr ? find_kind(*codec) : nullptr;
-    return kind != nullptr ? get_parameter(*codec, *kind, wanted) : nullptr;
+    return kind != nullptr ? get_parameter(*codec, *kind, set_slots(*codec, *kind), wanted) : nullptr;
 }
 
 int set_attr_value_by_mime(const char *name, const char *value, char (*names)[200], char (*values)[200],
@@ -112,7 +126,7 @@ int set_attr_value_by_mime(const char *name, const char *value, char (*names)[20
 {
     if (value == nullptr || names == nullptr || values == nullptr || present == nullptr)
         return fail();
-    return store(name != nullptr ? name : "", value, names, values, present, count);
+    return store(find_slot(name != nullptr ? name : "", names, count), value, values, present);
 }
 
 const char *get_attr_value_by_mime(const char *name, char (*names)[200], char (*values)[200],
@@ -120,5 +134,6 @@ const char *get_attr_value_by_mime(const char *name, char (*names)[200], char (*
 {
     if (names == nullptr || values == nullptr || present == nullptr)
         return fail_null();
-    return find_value(name != nullptr ? name : "", names, values, present, count);
+    const int slot = find_slot(name != nullptr ? name : "", names, count);
+    return slot != no_slot && present[slot] == 1 ? values[slot] : nullptr;
 }

@@ -8,16 +8,22 @@
 
 namespace dak {
 
-// The kind that the MIME name of a record stands for; null for an unknown name and for a format without
-// parameters.
+// The kind that the MIME name of a record stands for: null for an unknown name, one without slots for a format
+// without parameters.
 const codec_kind *find_kind(const media_codec &codec);
 
-// Stores a value under its name; 0, reported, when it is too long. A name that the kind lacks is logged and
-// passed over. The one value of telephone-event may come without a name.
+// A MIME name as the registry has it; empty for an unknown one.
+const char *registered_name(text_range mime_name);
+
+// Stores a value under its name; 0, reported, when it is too long, and 0 for a format without parameters. A
+// name that the kind lacks is logged and passed over. The one value of telephone-event may come without a name.
 int set_parameter(media_codec &codec, const codec_kind &kind, text_range name, text_range value);
 
-// The value under a name, or null.
-const char *get_parameter(media_codec &codec, const codec_kind &kind, text_range name);
+// A bit for each slot of a record that is set.
+uint32_t set_slots(const media_codec &codec, const codec_kind &kind);
+
+// The value under a name when its slot is among `slots`, or null.
+const char *get_parameter(media_codec &codec, const codec_kind &kind, uint32_t slots, text_range name);
 
 } // namespace dak
 

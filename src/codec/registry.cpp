@@ -20,7 +20,7 @@ struct codec_functions {
 #define DAK_KIND_FUNCTIONS(kind, init, set, get, encode, ...) \
     constexpr codec_functions kind = {&kinds::kind, init, set, get, encode};
 DAK_CODEC_KINDS(DAK_KIND_FUNCTIONS)
-constexpr codec_functions no_parameters = {};
+constexpr codec_functions no_parameters = {&kinds::no_parameters, nullptr, nullptr, nullptr, nullptr};
 
 } // namespace
 
@@ -67,4 +67,10 @@ const codec_kind *dak::find_kind(const media_codec &codec)
 {
     const int found = mime_names.find(field_text(codec.mime_type), mime_name);
     return found < 0 ? nullptr : kinds_by_mime[found];
+}
+
+const char *dak::registered_name(text_range name)
+{
+    const int found = mime_names.find(name, mime_name);
+    return found < 0 ? "" : g_media_mime[found];
 }

@@ -11,6 +11,7 @@ using namespace dak;
 namespace {
 
 // The order of these tags is the order in which session lines are written.
+constexpr size_t tag_length = 2;
 constexpr const char *session_tags[SDP_SESSION_SLOTS] = {
     "v=", "o=", "s=", "i=", "u=", "e=", "p=", "c=", "b=", "t=", "r=", "z=", "k=", "a="};
 
@@ -29,7 +30,7 @@ sdp_info_container *dak::selected_document(const sdp_lib_context *context, int s
 int dak::find_slot(const sdp_info_container &document, text_range line)
 {
     for (int slot = 0; slot < get_total_session_number_tag(); slot++) {
-        if (line.begins_with(text_range(document.type_tags[slot], size_t{2})))
+        if (line.begins_with(text_range(document.type_tags[slot], tag_length)))
             return slot;
     }
     return no_slot;
@@ -42,7 +43,7 @@ int init_sdp_session_info(sdp_info_container *document)
     if (document == nullptr)
         return fail();
     for (int slot = 0; slot < SDP_SESSION_SLOTS; slot++) {
-        if (!copy_constant(document->type_tags[slot], session_tags[slot]))
+        if (!copy_constant(document->type_tags[slot], {session_tags[slot], tag_length}))
             return 0;
         document->values[slot][0] = '\0';
         document->value_present[slot] = 0;

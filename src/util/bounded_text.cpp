@@ -4,9 +4,8 @@
 
 namespace dak {
 
-int copy_constant(char (&field)[200], const char *source)
+int copy_constant(char (&field)[200], text_range text)
 {
-    const text_range text(source);
     if (copy_text(field, text))
         return 1;
     DAK_LOG("Src str length %d exceeded dst str %lu \n", static_cast<int>(text.length() + 1),

@@ -1,58 +1,38 @@
 #include "util/line_scan.h"
 
-#include "util/ascii.hpp"
 #include "util/report.hpp"
-
-#include <stdint.h>
-#include <string.h>
+#include "util/scan.hpp"
 
 using namespace dak;
 
 namespace {
 
-// Advances while `belongs` holds; a null or reversed range is given back as it is.
-template <typename Predicate> const char *skip_while(const char *position, const char *end, Predicate belongs)
+// A null or reversed range is given back as it is.
+template <typename Scan> const char *scan_range(const char *position, const char *end, Scan scan)
 {
-    if (position == nullptr || position >= end)
-        return position;
-    while (position != end && belongs(*position))
-        position++;
-    return position;
-}
-
-constexpr ptrdiff_t word_size = sizeof(uint64_t);
-constexpr uint64_t each_byte = 0x0101010101010101;
-
-// Whether one of eight characters is a control character below 16, as those that end a line are.
-bool has_control(const char *position)
-{
-    uint64_t word = 0;
-    memcpy(&word, position, sizeof word);
-    return ((word - each_byte * 16) & ~word & each_byte << 7) != 0;
+    return position != nullptr && position < end ? scan(position, end) : position;
 }
 
 } // namespace
 
 const char *skip_whitespace(const char *position, const char *end)
 {
-    return skip_while(position, end, is_blank);
+    return scan_range(position, end, skip_blanks);
 }
 
 const char *skip_to_whitespace(const char *position, const char *end)
 {
-    return skip_while(position, end, [](char c) { return !is_white(c); });
+    return scan_range(position, end, find_white);
 }
 
 const char *skip_whitespace_and_line_term(const char *position, const char *end)
 {
-    return skip_while(position, end, is_white);
+    return scan_range(position, end, skip_white);
 }
 
 const char *skip_to_line_term(const char *position, const char *end)
 {
-    while (position != nullptr && position < end && end - position >= word_size && !has_control(position))
-        position += word_size;
-    return skip_while(position, end, [](char c) { return !is_line_term(c); });
+    return scan_range(position, end, find_line_term);
 }
 
 int get_next_line(const char *position, const char *end, const char **line_start, const char **line_end)

@@ -1,8 +1,8 @@
 #include "util/token.h"
 
 #include "util/bounded_text.hpp"
-#include "util/line_scan.h"
 #include "util/report.hpp"
+#include "util/scan.hpp"
 #include "util/token.hpp"
 
 using namespace dak;
@@ -10,6 +10,26 @@ using namespace dak;
 namespace {
 
 constexpr size_t destination_size = 256;
+
+// Where a token ends: at its delimiter, at white space without one. A token whose delimiter is absent runs
+// through `end`.
+const char *end_of_token(const char *start, const char *end, const char *delimiter)
+{
+    if (delimiter == nullptr)
+        return find_white(start, end);
+    const void *found = memchr(start, *delimiter, static_cast<size_t>(end - start) + 1);
+    return found != nullptr ? static_cast<const char *>(found) : end + 1;
+}
+
+// Takes the token that begins behind `position`; false at the end of the text and for an empty one.
+bool take(const char *position, const char *end, const char *delimiter, text_range &token)
+{
+    const char *start = skip_blanks(position, end);
+    if (start >= end)
+        return false;
+    token = {start, end_of_token(start, end, delimiter)};
+    return !token.empty();
+}
 
 bool take_part(text_range token, text_range &part)
 {
@@ -28,11 +48,10 @@ int get_token(const char *base, int offset, const char *end, const char **token_
         return 0;
     if (token_start == nullptr || token_end == nullptr)
         return fail();
-    *token_start = offset < end - base ? skip_whitespace(base + offset, end) : end;
+    *token_start = offset < end - base ? skip_blanks(base + offset, end) : end;
     if (*token_start >= end)
         return 0;
-    *token_end = delimiter != nullptr ? skip_to_char(*token_start, end, *delimiter)
-                                      : skip_to_whitespace(*token_start, end);
+    *token_end = end_of_token(*token_start, end, delimiter);
     return *token_start < *token_end;
 }
 
@@ -40,18 +59,18 @@ type_and_value dak::split_type_and_value(const char *position, const char *end, 
                                          const char *second_delimiter)
 {
     type_and_value found;
-    const char *start = nullptr;
-    const char *stop = nullptr;
-    if (!get_token(position, 0, end, &start, &stop, first_delimiter) || !take_part({start, stop}, found.type))
+    text_range token;
+    if (position == nullptr || end == nullptr || !take(position, end, first_delimiter, token) ||
+        !take_part(token, found.type))
         return found;
     found.has_type = true;
-    found.next = stop;
+    found.next = token.last;
     const bool value_required =
-        first_delimiter != nullptr && *first_delimiter == '=' && stop <= end && *stop == '=';
-    if (!get_token(stop, 1, end, &start, &found.next, second_delimiter)) {
-        found.next = stop;
+        first_delimiter != nullptr && *first_delimiter == '=' && found.next <= end && *found.next == '=';
+    if (found.next >= end || !take(found.next + 1, end, second_delimiter, token)) {
         found.parts = value_required ? 0 : 1;
-    } else if (take_part({start, found.next}, found.value)) {
+    } else if (take_part(token, found.value)) {
+        found.next = token.last;
         found.parts = 2;
     }
     return found;

@@ -16,6 +16,7 @@ public:
     {
         codec_ = has_codec(*md, codec_index) ? &md->codecs[codec_index] : nullptr;
         kind_ = codec_ != nullptr ? find_kind(*codec_) : nullptr;
+        slots_ = kind_ != nullptr ? set_slots(*codec_, *kind_) : 0;
     }
 
     // The text of a parameter, or null; asking for a codec that is not there is reported each time.
@@ -23,7 +24,7 @@ public:
     {
         if (codec_ == nullptr)
             return get_media_value(md_, codec_index_, name.first);
-        return kind_ != nullptr ? get_parameter(*codec_, *kind_, name) : nullptr;
+        return slots_ != 0 ? get_parameter(*codec_, *kind_, slots_, name) : nullptr;
     }
 
     template <typename Field> void signed_number(text_range name, uint8_t &is_present, Field &field) const
@@ -42,6 +43,7 @@ private:
     media_description *md_;
     media_codec *codec_;
     const codec_kind *kind_;
+    uint32_t slots_; // those that are set: most parameters of most formats are not
     uint16_t codec_index_;
 };
 

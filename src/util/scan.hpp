@@ -1,0 +1,63 @@
+// The scanners of line_scan.h for positions that are known to lie in their range.
+#ifndef DAKSDP_UTIL_SCAN_HPP
+#define DAKSDP_UTIL_SCAN_HPP
+
+#include "util/ascii.hpp"
+
+#include <bit>
+#include <stdint.h>
+#include <string.h>
+
+namespace dak {
+
+inline const char *skip_blanks(const char *position, const char *end)
+{
+    while (position < end && is_blank(*position))
+        position++;
+    return position;
+}
+
+inline const char *skip_white(const char *position, const char *end)
+{
+    while (position < end && is_white(*position))
+        position++;
+    return position;
+}
+
+inline const char *find_white(const char *position, const char *end)
+{
+    while (position < end && !is_white(*position))
+        position++;
+    return position;
+}
+
+// Which of the eight characters at a position are control characters below 16, among them those that end a
+// line, by the highest bit of each. The lowest bit that is set is exact, those above it need not be.
+inline uint64_t control_characters(const char *position)
+{
+    constexpr uint64_t each = 0x0101010101010101;
+    uint64_t word = 0;
+    memcpy(&word, position, sizeof word);
+    if constexpr (std::endian::native == std::endian::big)
+        word = __builtin_bswap64(word);
+    return (word - each * 16) & ~word & each << 7;
+}
+
+// Eight characters at a time: all of a body goes through here more than once.
+inline const char *find_line_term(const char *position, const char *end)
+{
+    while (end - position >= 8) {
+        const uint64_t controls = control_characters(position);
+        position += controls != 0 ? std::countr_zero(controls) / 8 : 8;
+        if (controls != 0 && is_line_term(*position))
+            return position;
+        position += controls != 0;
+    }
+    while (position < end && !is_line_term(*position))
+        position++;
+    return position;
+}
+
+} // namespace dak
+
+#endif
