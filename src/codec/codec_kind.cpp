@@ -10,21 +10,17 @@ using namespace dak;
 
 namespace {
 
-int write_names(char (*names)[200], const codec_kind &kind)
+void write_names(char (*names)[200], const codec_kind &kind)
 {
-    for (int i = 0; i < kind.count; i++) {
-        if (!copy_constant(names[i], {kind.slots[i].text, size_t{kind.slots[i].length}}))
-            return 0;
-    }
-    return 1;
+    for (int i = 0; i < kind.count; i++)
+        memcpy(names[i], kind.slots[i].text, size_t{kind.slots[i].length} + 1);
 }
 
 int initialise(const codec_kind &kind, media_codec *codec)
 {
     if (codec == nullptr)
         return fail();
-    if (!write_names(codec->info.param_name, kind))
-        return 0;
+    write_names(codec->info.param_name, kind);
     for (int i = 0; i < kind.count; i++) {
         codec->info.param_value[i][0] = '\0';
         codec->info.param_present[i] = 0;
@@ -92,5 +88,8 @@ DAK_CODEC_KINDS(DAK_KIND_EXPORTS)
 
 int init_h263_common_params(char (*param_name)[200])
 {
-    return param_name != nullptr ? write_names(param_name, kinds::h263_1998) : fail();
+    if (param_name == nullptr)
+        return fail();
+    write_names(param_name, kinds::h263_1998);
+    return 1;
 }

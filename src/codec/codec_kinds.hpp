@@ -112,7 +112,11 @@ namespace dak {
 
 // A text of the library itself with its length.
 struct literal {
-    template <size_t Size> constexpr literal(const char (&chars)[Size]) : text(chars), length(Size - 1) {}
+    template <size_t Size> constexpr literal(const char (&chars)[Size]) : text(chars), length(Size - 1)
+    {
+        static_assert(Size <= 200, "fits a slot");
+    }
+
 
     const char *text;
     uint8_t length;

@@ -11,7 +11,7 @@ using namespace dak;
 namespace {
 
 constexpr size_t text_size = 256;
-constexpr const char *delimiters = " \n";
+constexpr delimiter_set delimiters = " \n";
 using precondition_text = built_text<text_size>;
 
 bool is_kind(uint32_t kind) { return find_word(precondition_words, kind) != nullptr; }

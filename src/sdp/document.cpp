@@ -29,8 +29,11 @@ sdp_info_container *dak::selected_document(const sdp_lib_context *context, int s
 
 int dak::find_slot(const sdp_info_container &document, text_range line)
 {
-    for (int slot = 0; slot < get_total_session_number_tag(); slot++) {
-        if (line.begins_with(text_range(document.type_tags[slot], tag_length)))
+    if (line.length() < tag_length)
+        return no_slot;
+    for (int slot = 0; slot < SDP_SESSION_SLOTS; slot++) {
+        const char *tag = document.type_tags[slot];
+        if (tag[0] == line.first[0] && tag[1] == line.first[1])
             return slot;
     }
     return no_slot;
@@ -43,8 +46,7 @@ int init_sdp_session_info(sdp_info_container *document)
     if (document == nullptr)
         return fail();
     for (int slot = 0; slot < SDP_SESSION_SLOTS; slot++) {
-        if (!copy_constant(document->type_tags[slot], {session_tags[slot], tag_length}))
-            return 0;
+        memcpy(document->type_tags[slot], session_tags[slot], tag_length + 1);
         document->values[slot][0] = '\0';
         document->value_present[slot] = 0;
         document->extra_values[slot] = nullptr;

@@ -48,10 +48,8 @@ int fill(media_description &description, text_range media_type, text_range trans
     description.number_of_payload = payload_count;
     for (int i = 0; i < payload_count; i++)
         description.payload_numbers[i] = static_cast<int32_t>(payload_numbers[i]);
-    for (int slot = 0; slot < SDP_MEDIA_VALUE_SLOTS; slot++) {
-        if (!copy_constant(description.media_value_tags[slot], {value_tags[slot], size_t{2}}))
-            return 0;
-    }
+    for (int slot = 0; slot < SDP_MEDIA_VALUE_SLOTS; slot++)
+        memcpy(description.media_value_tags[slot], value_tags[slot], sizeof "c=");
     return 1;
 }
 

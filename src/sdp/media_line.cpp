@@ -11,21 +11,20 @@
 #include "util/number.h"
 #include "util/report.hpp"
 #include "util/text_range.hpp"
-#include "util/token.h"
+#include "util/token.hpp"
 
 using namespace dak;
 
 namespace {
 
 // Takes the next word of the line; empty at its end.
-text_range take_token(const char *&position, const char *end)
+text_range take_word(const char *&position, const char *end)
 {
-    const char *start = nullptr;
-    const char *stop = nullptr;
-    if (!get_token(position, 0, end, &start, &stop, nullptr))
+    text_range token;
+    if (!take_token(position, end, nullptr, token))
         return {};
-    position = stop;
-    return {start, stop};
+    position = token.last;
+    return token;
 }
 
 int read_number(text_range text, uint32_t *number)
@@ -55,15 +54,15 @@ int read_format(media_description *description, text_range token)
 
 int read_fields(media_description *description, const char *position, const char *end)
 {
-    const text_range type = take_token(position, end);
+    const text_range type = take_word(position, end);
     if (!set_media_type(description, type.first, static_cast<uint32_t>(type.length())))
         return 0;
-    if (!read_ports(description, take_token(position, end)))
+    if (!read_ports(description, take_word(position, end)))
         return 0;
-    const text_range profile = take_token(position, end);
+    const text_range profile = take_word(position, end);
     if (!set_transport_profile(description, profile.first, static_cast<uint32_t>(profile.length())))
         return 0;
-    for (text_range format = take_token(position, end); !format.empty(); format = take_token(position, end)) {
+    for (text_range format = take_word(position, end); !format.empty(); format = take_word(position, end)) {
         if (!read_format(description, format))
             return 0;
     }

@@ -22,9 +22,6 @@ template <size_t N> bool copy_text(char (&field)[N], text_range source)
     return copy_text(field, N, source);
 }
 
-// Copies a name or tag of the library itself, with the report that stands for one that would not fit.
-int copy_constant(char (&field)[200], text_range source);
-
 // The decimal digits of a number, for appending.
 class decimal {
 public:

@@ -39,11 +39,12 @@ int dak_atoi(const char *text, int mode, uint32_t length, uint32_t *out)
     if (text == nullptr)
         return fail();
     const uint32_t base = mode == DAK_ATOI_HEX ? 16 : 10;
+    uint64_t number = 0;
     for (uint32_t i = 0; i < length; i++) {
         const uint32_t digit = digit_value(text[i], base);
         if (digit == base)
             return end_of_number(text[i], mode);
-        const uint64_t number = uint64_t{*out} * base + digit;
+        number = number * base + digit;
         if (number > int32_max)
             return fail();
         *out = static_cast<uint32_t>(number);

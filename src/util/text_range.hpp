@@ -9,6 +9,24 @@
 
 namespace dak {
 
+// One to three characters that end a token.
+class delimiter_set {
+public:
+    template <size_t Size>
+    constexpr delimiter_set(const char (&characters)[Size])
+        : first_(characters[0]), second_(characters[Size > 2 ? 1 : 0]), third_(characters[Size > 3 ? 2 : 0])
+    {
+        static_assert(Size >= 2 && Size <= 4);
+    }
+
+    bool has(char c) const { return c == first_ || c == second_ || c == third_; }
+
+private:
+    char first_;
+    char second_;
+    char third_;
+};
+
 struct text_range {
     const char *first = "";
     const char *last = first;
@@ -90,24 +108,7 @@ struct text_range {
 
     // The next token between delimiters, taken off together with the one behind it; runs of delimiters count
     // as one. A NUL ends the text. Empty at its end.
-    text_range take_token(const char *delimiters)
-    {
-        const auto delimits = [delimiters](char c) {
-            const char *delimiter = delimiters;
-            while (*delimiter != '\0' && *delimiter != c)
-                delimiter++;
-            return *delimiter != '\0';
-        };
-        while (first != last && delimits(*first))
-            first++;
-        const char *start = first;
-        while (first != last && *first != '\0' && !delimits(*first))
-            first++;
-        const text_range token(start, first);
-        if (first != last && *first != '\0')
-            first++;
-        return token;
-    }
+    text_range take_token(delimiter_set delimiters);
 
     // The next word between spaces and line terminators.
     text_range take_word() { return take_token(" \r\n"); }

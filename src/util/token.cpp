@@ -11,26 +11,6 @@ namespace {
 
 constexpr size_t destination_size = 256;
 
-// Where a token ends: at its delimiter, at white space without one. A token whose delimiter is absent runs
-// through `end`.
-const char *end_of_token(const char *start, const char *end, const char *delimiter)
-{
-    if (delimiter == nullptr)
-        return find_white(start, end);
-    const void *found = memchr(start, *delimiter, static_cast<size_t>(end - start) + 1);
-    return found != nullptr ? static_cast<const char *>(found) : end + 1;
-}
-
-// Takes the token that begins behind `position`; false at the end of the text and for an empty one.
-bool take(const char *position, const char *end, const char *delimiter, text_range &token)
-{
-    const char *start = skip_blanks(position, end);
-    if (start >= end)
-        return false;
-    token = {start, end_of_token(start, end, delimiter)};
-    return !token.empty();
-}
-
 bool take_part(text_range token, text_range &part)
 {
     if (token.length() >= part_size)
@@ -60,14 +40,14 @@ type_and_value dak::split_type_and_value(const char *position, const char *end, 
 {
     type_and_value found;
     text_range token;
-    if (position == nullptr || end == nullptr || !take(position, end, first_delimiter, token) ||
+    if (position == nullptr || end == nullptr || !take_token(position, end, first_delimiter, token) ||
         !take_part(token, found.type))
         return found;
     found.has_type = true;
     found.next = token.last;
     const bool value_required =
         first_delimiter != nullptr && *first_delimiter == '=' && found.next <= end && *found.next == '=';
-    if (found.next >= end || !take(found.next + 1, end, second_delimiter, token)) {
+    if (found.next >= end || !take_token(found.next + 1, end, second_delimiter, token)) {
         found.parts = value_required ? 0 : 1;
     } else if (take_part(token, found.value)) {
         found.next = token.last;

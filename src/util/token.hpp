@@ -2,6 +2,7 @@
 #ifndef DAKSDP_UTIL_TOKEN_HPP
 #define DAKSDP_UTIL_TOKEN_HPP
 
+#include "util/scan.hpp"
 #include "util/text_range.hpp"
 
 namespace dak {
@@ -20,6 +21,26 @@ struct type_and_value {
 // What get_type_and_value() gives, as ranges of the line; both are trimmed and end in front of a NUL.
 type_and_value split_type_and_value(const char *position, const char *end, const char *first_delimiter,
                                     const char *second_delimiter);
+
+// Where a token ends: at its delimiter, at white space without one. A token whose delimiter is absent runs
+// through `end`.
+inline const char *end_of_token(const char *start, const char *end, const char *delimiter)
+{
+    if (delimiter == nullptr)
+        return find_white(start, end);
+    const void *found = memchr(start, *delimiter, static_cast<size_t>(end - start) + 1);
+    return found != nullptr ? static_cast<const char *>(found) : end + 1;
+}
+
+// Takes the token that begins behind `position`; false at the end of the text and for an empty one.
+inline bool take_token(const char *position, const char *end, const char *delimiter, text_range &token)
+{
+    const char *start = skip_blanks(position, end);
+    if (start >= end)
+        return false;
+    token = {start, end_of_token(start, end, delimiter)};
+    return !token.empty();
+}
 
 // Whether a terminated text begins with a name that has no NUL.
 inline bool begins_with(const char *text, text_range name)

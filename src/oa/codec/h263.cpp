@@ -11,7 +11,7 @@ using namespace dak;
 
 namespace {
 
-constexpr const char *delimiters = ",;";
+constexpr delimiter_set delimiters = ",;";
 constexpr size_t list_size = 256;
 constexpr uint32_t most_submodes = sizeof h263_params::p_modes / sizeof *h263_params::p_modes;
 constexpr uint32_t most_packed_submodes = 128;

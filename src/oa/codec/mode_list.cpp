@@ -22,7 +22,7 @@ int add_modes(mode_text &list, uint32_t mode_map)
 uint32_t read_modes(const char *text, const mode_list_rule &rule, uint8_t &is_present, uint32_t &mode_map)
 {
     constexpr size_t longest = 256;
-    constexpr const char *delimiters = ",;";
+    constexpr delimiter_set delimiters = ",;";
     text_range rest(text);
     if (rest.length() > longest) {
         return fail_as_too_long(longest + 1);

@@ -13,7 +13,7 @@ using namespace dak;
 namespace {
 
 constexpr size_t list_size = 256;
-constexpr const char *delimiters = ",;";
+constexpr delimiter_set delimiters = ",;";
 using event_list = built_text<list_size>;
 
 // A single event is written as the 32-bit word that both of its halves make.
@@ -47,7 +47,7 @@ uint32_t add_entry(event_list &list, const sdp_tel_event_entry &entry)
 // Reads "first-last"; false, with the entry cleared, for a part that is missing or no number.
 bool read_range(text_range token, sdp_tel_event_entry &entry)
 {
-    constexpr const char *hyphen = "-";
+    constexpr delimiter_set hyphen = "-";
     sdp_tel_event_entry range = {SDP_TEL_EVENT_RANGE, 0, 0};
     entry = {};
     if (!scan_unsigned(token.take_token(hyphen), range.first) ||
