@@ -117,7 +117,6 @@ struct literal {
         static_assert(Size <= 200, "fits a slot");
     }
 
-
     const char *text;
     uint8_t length;
 };

@@ -79,7 +79,8 @@ int get_media_description_attribute(const media_description *description, const 
         return fail();
     const text_range wanted(name);
     for (const session_value *node = description->attributes; node != nullptr; node = node->next) {
-        if (begins_with(node->text, wanted) && find_type_return_value(node->text, name, ":", destination))
+        if ((*node->text == *name || *name == '\0') && begins_with(node->text, wanted) &&
+            find_type_return_value(node->text, name, ":", destination))
             return 1;
     }
     return 0;

@@ -8,14 +8,12 @@
 #include "attr/rtcp_fb.h"
 #include "codec/fmtp_parse.h"
 #include "sdp/attribute_lines.h"
-#include "sdp/line_match.h"
 #include "sdp/media_codecs.h"
 #include "sdp/media_values.h"
 #include "sdp/rtcp_address.h"
 #include "sdp/rtpmap.h"
-#include "util/line_scan.h"
 #include "util/report.hpp"
-#include "util/text_range.hpp"
+#include "util/scan.hpp"
 
 using namespace dak;
 
@@ -51,12 +49,11 @@ constexpr attribute_reader attribute_readers[] = {
      "process_media_attribute :                              parse rtcp-fb error \n"},
 };
 
-// Finds the next line of the section; false at the next m= line and at the end of the text.
-bool next_line_of_section(const char *position, const char *end, const char *&line_start,
-                          const char *&line_end)
+// The next line of the section; empty at the next m= line and at the end of the text.
+text_range next_line_of_section(const char *position, const char *end)
 {
-    return get_next_line(position, end, &line_start, &line_end) &&
-           !find_media_description(line_start, line_end);
+    const text_range line = next_line(position, end);
+    return line.begins_with("m=") ? text_range() : line;
 }
 
 void bind_rtcp(media_description *description, const char *line_start, const char *line_end)
@@ -84,28 +81,28 @@ int bind_rtpmap(media_description *description, const char *line_start, const ch
 // First pass: formats get their names before any fmtp line is read, wherever it stands.
 void read_bindings(media_description *description, const char *position, const char *end)
 {
-    const char *line_start = nullptr;
-    const char *line_end = nullptr;
     int bound = -1; // only failures in front of the section's first success are logged and kept
-    for (; next_line_of_section(position, end, line_start, line_end); position = line_end) {
-        const text_range line(line_start, line_end);
+    for (text_range line = next_line_of_section(position, end); !line.empty();
+         line = next_line_of_section(line.last, end)) {
         if (line.begins_with("a=rtcp:"))
-            bind_rtcp(description, line_start, line_end);
+            bind_rtcp(description, line.first, line.last);
         if (!line.begins_with("a=rtpmap"))
             continue;
-        const int index = bind_rtpmap(description, line_start, line_end);
+        const int index = bind_rtpmap(description, line.first, line.last);
         bound = index >= 0 ? index : bound;
         if (bound < 0) {
             DAK_LOG("parse rtpmap err ");
-            parse_sdp_attribute(description, line_start, line_end);
+            parse_sdp_attribute(description, line.first, line.last);
         }
     }
 }
 
 const attribute_reader *find_reader(text_range attribute)
 {
+    if (attribute.empty())
+        return nullptr;
     for (const attribute_reader &reader : attribute_readers) {
-        if (attribute.begins_with(reader.name))
+        if (*reader.name == *attribute.first && attribute.begins_with(reader.name))
             return &reader;
     }
     return nullptr;
@@ -138,9 +135,10 @@ int process_media_attribute(const char **position, const char *end, media_descri
     if (position == nullptr || *position == nullptr || end == nullptr || description == nullptr)
         return fail();
     read_bindings(description, *position, end);
-    const char *line_start = nullptr;
-    const char *line_end = nullptr;
-    for (; next_line_of_section(*position, end, line_start, line_end); *position = line_end)
-        read_line(description, {line_start, line_end});
+    for (text_range line = next_line_of_section(*position, end); !line.empty();
+         line = next_line_of_section(*position, end)) {
+        read_line(description, line);
+        *position = line.last;
+    }
     return 1;
 }

@@ -26,7 +26,12 @@ void clear(media_codec &codec)
     codec.mime_type[0] = '\0';
     codec.sample_rate = 0;
     codec.encoding_param = 0;
-    codec.rtcp_fb = {};
+    codec.rtcp_fb.fb_present = 0;
+    codec.rtcp_fb.fb_count = 0;
+    for (rtcp_fb_entry &entry : codec.rtcp_fb.fb_entries) {
+        entry.fb_type = entry.ccm_subtype = entry.nack_subtype = 0;
+        entry.fb_param[0] = '\0';
+    }
     for (int slot = 0; slot < MEDIA_INFO_MAX_SLOTS; slot++) {
         codec.info.param_name[slot][0] = '\0';
         codec.info.param_value[slot][0] = '\0';

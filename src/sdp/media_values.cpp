@@ -15,7 +15,8 @@ constexpr int no_slot = -1;
 // Whether the two characters of a slot's tag begin a text, case-sensitively.
 bool is_tagged(const media_description &description, int slot, text_range text)
 {
-    return text.begins_with(field_text(description.media_value_tags[slot]));
+    const char(&tag)[200] = description.media_value_tags[slot];
+    return (text.empty() || *tag == *text.first) && text.begins_with(field_text(tag));
 }
 
 // The first free slot that `matches`, or no_slot.

@@ -18,6 +18,8 @@ constexpr unsigned char to_upper(char c)
 // Compares two texts of one length, letters folded.
 constexpr bool equal_ignoring_case(const char *a, const char *b, decltype(sizeof 0) length)
 {
+    if (__builtin_memcmp(a, b, length) == 0)
+        return true;
     for (decltype(length) i = 0; i < length; i++) {
         if (a[i] != b[i] && to_upper(a[i]) != to_upper(b[i]))
             return false;

@@ -66,9 +66,11 @@ int dak_atoi64(const char *text, uint32_t length, int64_t *out)
     uint64_t magnitude = 0;
     for (uint32_t i = negative ? 1 : 0; i < length && !is_white(text[i]); i++) {
         const uint32_t digit = digit_value(text[i], 10);
-        if (digit == 10 || magnitude > (limit - digit) / 10)
+        if (digit == 10 || magnitude > UINT64_MAX / 10)
             return 0;
         magnitude = magnitude * 10 + digit;
+        if (magnitude > limit || magnitude < digit)
+            return 0;
     }
     *out = static_cast<int64_t>(negative ? 0 - magnitude : magnitude);
     return 1;

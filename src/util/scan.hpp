@@ -2,7 +2,7 @@
 #ifndef DAKSDP_UTIL_SCAN_HPP
 #define DAKSDP_UTIL_SCAN_HPP
 
-#include "util/ascii.hpp"
+#include "util/text_range.hpp"
 
 #include <bit>
 #include <stdint.h>
@@ -56,6 +56,13 @@ inline const char *find_line_term(const char *position, const char *end)
     while (position < end && !is_line_term(*position))
         position++;
     return position;
+}
+
+// The next line that is not blank, without its terminator; empty at the end.
+inline text_range next_line(const char *position, const char *end)
+{
+    const char *start = skip_white(position, end);
+    return {start, find_line_term(start, end)};
 }
 
 } // namespace dak

@@ -11,11 +11,12 @@ namespace {
 
 constexpr size_t destination_size = 256;
 
-bool take_part(text_range token, text_range &part)
+// Takes a part that is short enough for its callers' fields; false, reported, for a longer one.
+bool take_part(text_range token, bool has_nul, text_range &part)
 {
     if (token.length() >= part_size)
         return fail();
-    part = token.terminated().trimmed();
+    part = has_nul ? token.terminated().trimmed() : token.trimmed();
     return true;
 }
 
@@ -40,8 +41,10 @@ type_and_value dak::split_type_and_value(const char *position, const char *end, 
 {
     type_and_value found;
     text_range token;
-    if (position == nullptr || end == nullptr || !take_token(position, end, first_delimiter, token) ||
-        !take_part(token, found.type))
+    if (position == nullptr || end == nullptr || !take_token(position, end, first_delimiter, token))
+        return found;
+    const bool has_nul = memchr(token.first, '\0', static_cast<size_t>(end - token.first)) != nullptr;
+    if (!take_part(token, has_nul || token.last > end, found.type))
         return found;
     found.has_type = true;
     found.next = token.last;
@@ -49,7 +52,7 @@ type_and_value dak::split_type_and_value(const char *position, const char *end, 
         first_delimiter != nullptr && *first_delimiter == '=' && found.next <= end && *found.next == '=';
     if (found.next >= end || !take_token(found.next + 1, end, second_delimiter, token)) {
         found.parts = value_required ? 0 : 1;
-    } else if (take_part(token, found.value)) {
+    } else if (take_part(token, has_nul || token.last > end, found.value)) {
         found.next = token.last;
         found.parts = 2;
     }
