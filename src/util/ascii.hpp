@@ -18,6 +18,9 @@ constexpr unsigned char to_upper(char c)
 // Compares two texts of one length, letters folded.
 constexpr bool equal_ignoring_case(const char *a, const char *b, decltype(sizeof 0) length)
 {
+    constexpr int case_bit = 'a' ^ 'A';
+    if (length > 0 && ((a[0] ^ b[0]) & ~case_bit) != 0)
+        return false;
     if (__builtin_memcmp(a, b, length) == 0)
         return true;
     for (decltype(length) i = 0; i < length; i++) {
