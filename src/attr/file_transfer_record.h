@@ -38,7 +38,9 @@ typedef struct sdp_file_range {
 } sdp_file_range;
 
 /** Value of `hash_alg`. */
-enum { SDP_FILE_HASH_SHA1 = 0 };
+enum {
+    SDP_FILE_HASH_SHA1 = 0 /**< SHA-1, the only algorithm that is read */
+};
 
 /** A file-selector attribute. */
 typedef struct sdp_file_selector {

@@ -34,7 +34,10 @@ typedef struct sdp_accept_attr {
 } sdp_accept_attr;
 
 /** Values of `scheme`. */
-enum { SDP_PATH_MSRP = 0, SDP_PATH_MSRPS = 1 };
+enum {
+    SDP_PATH_MSRP = 0, /**< "msrp", over TCP */
+    SDP_PATH_MSRPS = 1 /**< "msrps", over TLS */
+};
 
 /** A path attribute of one MSRP URI. */
 typedef struct sdp_path_attr {

@@ -18,9 +18,15 @@ typedef enum rtcp_fb_type {
 } rtcp_fb_type;
 
 /** Values of `nack_subtype`. */
-enum { RTCP_FB_NACK_PLAIN = 0, RTCP_FB_NACK_PLI = 1 };
+enum {
+    RTCP_FB_NACK_PLAIN = 0, /**< "nack", lost packets */
+    RTCP_FB_NACK_PLI = 1    /**< "nack pli", picture loss indication */
+};
 /** Values of `ccm_subtype`. */
-enum { RTCP_FB_CCM_FIR = 0, RTCP_FB_CCM_TMMBR = 1 };
+enum {
+    RTCP_FB_CCM_FIR = 0,  /**< "ccm fir", full intra request */
+    RTCP_FB_CCM_TMMBR = 1 /**< "ccm tmmbr", temporary maximum bit rate request */
+};
 
 /** Type and subtype of an entry, as the type getters fill it: its first three words. */
 typedef struct rtcp_fb_kind {

@@ -2,8 +2,8 @@
  * @file
  * The builders of media sections.
  *
- * A builder that takes a media section and a part of the container gives 0; 3, with a log line, for null; 4,
- * with a log line, for invalid content or a refusal of the lower layer.
+ * They store what the encoder writes later. A builder that gives a code logs whatever it refuses; what it
+ * stored until then stays in the section.
  */
 #ifndef DAKSDP_OA_MEDIA_GENERATION_H
 #define DAKSDP_OA_MEDIA_GENERATION_H
@@ -21,7 +21,7 @@ extern "C" {
 /**
  * Adds a media section for each media line to the encoder document. The connection and the RTCP address of a
  * media line are not written.
- * @param document the context that holds the document
+ * @param document the context that holds the encoder document
  * @param container the container
  * @return 0; 3, with a log line, for null; else, with a log line, the code of the builder that failed, or 4
  */
@@ -36,24 +36,41 @@ uint32_t dak_app_oa_encode_mlines(sdp_lib_context *document, sdp_container *cont
  */
 media_description *dak_app_oa_encode_common_media_line(const sdp_media_line *mline);
 
-/** Stores up to four b= lines; a fifth is refused. */
+/**
+ * Stores the b= lines, up to four.
+ * @param md the media section
+ * @param bandwidth the lines
+ * @return 0; 3 for null; 4 for an unknown modifier or a fifth line
+ */
 uint32_t dak_app_oa_encode_media_bandwidth(media_description *md, const sdp_bandwidth *bandwidth);
 
 /**
- * Binds the payload formats: a=rtpmap, codec parameters and, for the transport RTP/AVPF, feedback. 3, with a
- * log line, also for an unknown codec; 7, with a log line, for a payload number above 95 without a=rtpmap
- * line; else the code of the codec's encode function.
+ * Binds the payload formats: a=rtpmap, codec parameters and, for the transport RTP/AVPF, feedback.
+ * @param md the media section, which has the payload numbers already
+ * @param mline the media line; only the marker of an H263-1998 block is ever written to
+ * @return 0; 3 for null or an unknown codec; 4 for a payload number that the section lacks or more than five
+ *         feedback entries; 7 for a payload number above 95 without a=rtpmap line; else the code of the
+ *         codec's encode function
  */
 uint32_t dak_app_oa_encode_media_formats(media_description *md, sdp_media_line *mline);
 
 /**
  * Stores direction, setup or connection, framerate, maxprate, maxptime, ptime, mid, preconditions and, for
- * the transport RTP/AVPF, feedback for all formats. 1, with a log line, for ten preconditions or more; 3,
- * with a log line, also when framerate, maxprate, maxptime, ptime or mid is refused.
+ * the transport RTP/AVPF, feedback for all formats.
+ * @param md the media section
+ * @param mline the media line
+ * @return 0; 1 for ten preconditions or more; 3 for null, or when framerate, maxprate, maxptime, ptime or mid
+ *         is refused; 4 for an unknown direction, setup or connection, for a bad precondition, and for more
+ *         than five feedback entries
  */
 uint32_t dak_app_oa_encode_media_gen_attr(media_description *md, const sdp_media_line *mline);
 
-/** Stores the message-session and file-transfer records of a media line over MSRP. */
+/**
+ * Stores the message-session and file-transfer records of a media line over MSRP.
+ * @param md the media section
+ * @param mline the media line; nothing is stored unless its `msg_attr_present` is set
+ * @return 0; 3 for null; 4 for more than five file selectors
+ */
 uint32_t dak_app_oa_encode_media_message_attr(media_description *md, const sdp_media_line *mline);
 
 #ifdef __cplusplus

@@ -2,8 +2,8 @@
  * @file
  * The readers of media sections.
  *
- * A reader takes a media section of the parser document and the media line to fill. It gives 0; 3, with a log
- * line, for null.
+ * Each takes its lines of a media section into the fields of a media line, which was zeroed, and leaves the
+ * other fields alone.
  */
 #ifndef DAKSDP_OA_MEDIA_PARSING_H
 #define DAKSDP_OA_MEDIA_PARSING_H
@@ -28,33 +28,56 @@ extern "C" {
  */
 uint32_t dak_app_oa_parse_mlines(sdp_lib_context *document, sdp_container *container);
 
-/** Reads media type, transport, ports and RTCP address; 4 for another type than audio, video, message, image.
+/**
+ * Reads media type, transport, ports and RTCP address.
+ * @param md the media section
+ * @param[in,out] mline the media line
+ * @return 0, also, with a log line, for an unknown transport; 3, with a log line, for null; 4 for another
+ *         type than audio, video, message and image
  */
 uint32_t dak_app_oa_parse_media_line(media_description *md, sdp_media_line *mline);
 
-/** Reads the c= line, if there is one, and gives the result of dak_app_oa_parse_address(). */
+/**
+ * Reads the c= line, if there is one.
+ * @param md the media section
+ * @param[in,out] mline the media line
+ * @return 0 without one; 3, with a log line, for null; else the result of dak_app_oa_parse_address()
+ */
 uint32_t dak_app_oa_parse_media_connection(media_description *md, sdp_media_line *mline);
 
 /**
- * Reads up to four b= lines; an unknown modifier, or a value that is no number (logged), ends the reading. 5,
- * with a log line, for a missing modifier or value.
+ * Reads up to four b= lines; an unknown modifier, or a value that is no number (logged), ends the reading.
+ * @param md the media section
+ * @param[in,out] mline the media line
+ * @return 0; 3, with a log line, for null; 5, with a log line, for a missing modifier or value
  */
 uint32_t dak_app_oa_parse_media_bandwidth(media_description *md, sdp_media_line *mline);
 
 /**
  * Reads direction, setup, ptime, maxptime, framerate, maxprate, mid, feedback for all formats and
- * preconditions. 1, with a log line, for a mid of 21 characters or more; else the result of
- * dak_app_oa_parse_pre_cond_str().
+ * preconditions.
+ * @param md the media section
+ * @param[in,out] mline the media line
+ * @return 0; 1, with a log line, for a mid of 21 characters or more; 3, with a log line, for null; else the
+ *         result of dak_app_oa_parse_pre_cond_str()
  */
 uint32_t dak_app_oa_parse_media_gen_attr(media_description *md, sdp_media_line *mline);
 
 /**
- * Reads the payload formats with their codec parameters and feedback. 7, with a log line, for a payload
- * number of 96 or above whose parameters cannot be decoded: the formats behind it are not read.
+ * Reads the payload formats with their codec parameters and feedback.
+ * @param md the media section
+ * @param[in,out] mline the media line
+ * @return 0; 3, with a log line, for null; 7, with a log line, for a payload number of 96 or above whose
+ *         parameters cannot be decoded: the formats behind it are not read
  */
 uint32_t dak_app_oa_parse_formats(media_description *md, sdp_media_line *mline);
 
-/** Copies the message-session and file-transfer records; 0 for null. */
+/**
+ * Copies the message-session and file-transfer records; the latter only when there is a file selector.
+ * @param md the media section
+ * @param[in,out] mline the media line
+ * @return 0, also for null
+ */
 uint32_t dak_app_oa_parse_message_attr(media_description *md, sdp_media_line *mline);
 
 /**

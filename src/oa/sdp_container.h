@@ -33,7 +33,11 @@
 #define SDP_UNKNOWN_CODEC 114
 
 /** Values of `addr_type`. */
-enum { SDP_ADDR_IPV4 = 0, SDP_ADDR_IPV6 = 1, SDP_ADDR_NOT_SET = 2 };
+enum {
+    SDP_ADDR_IPV4 = 0,   /**< "IN IP4" */
+    SDP_ADDR_IPV6 = 1,   /**< "IN IP6" */
+    SDP_ADDR_NOT_SET = 2 /**< no address was read; cannot be written */
+};
 
 /** An address of an o= or c= line. */
 typedef struct sdp_address {
@@ -42,8 +46,9 @@ typedef struct sdp_address {
     char address[256];  /**< address text, host name or literal */
 } sdp_address;
 
-/** Bandwidth modifiers. */
+/** A bandwidth modifier, #SDP_BW_AS and its fellows. */
 typedef uint32_t sdp_bw_modifier;
+/** Bandwidth modifiers. */
 enum {
     SDP_BW_AS = 0,     /**< "AS", kilobits per second */
     SDP_BW_CT = 1,     /**< "CT", kilobits per second */
@@ -57,7 +62,7 @@ enum {
 typedef struct sdp_bandwidth_entry {
     uint8_t present;          /**< the first absent entry ends the list */
     sdp_bw_modifier modifier; /**< 0 AS, 1 CT, 2 TIAS, 3 RR, 4 RS */
-    uint32_t value;           /**< written in decimal */
+    uint32_t value;           /**< in the modifier's unit */
 } sdp_bandwidth_entry;
 
 /** The bandwidth lines of a session or a media line. */
@@ -66,13 +71,24 @@ typedef struct sdp_bandwidth {
     sdp_bandwidth_entry entries[SDP_MAX_BANDWIDTHS]; /**< the lines */
 } sdp_bandwidth;
 
-/** Media directions. */
+/** A direction, #SDP_RECVONLY and its fellows. */
 typedef uint32_t sdp_direction;
-enum { SDP_RECVONLY = 1, SDP_SENDONLY = 2, SDP_SENDRECV = 3, SDP_INACTIVE = 4 };
+/** Media directions. */
+enum {
+    SDP_RECVONLY = 1, /**< a=recvonly */
+    SDP_SENDONLY = 2, /**< a=sendonly */
+    SDP_SENDRECV = 3, /**< a=sendrecv, and what no direction means */
+    SDP_INACTIVE = 4  /**< a=inactive */
+};
 
-/** Group semantics (RFC 5888). */
+/** Semantics of a group, #SDP_GROUP_LS and its fellows. */
 typedef uint32_t sdp_group_semantics;
-enum { SDP_GROUP_LS = 0, SDP_GROUP_FID = 1, SDP_GROUP_UNKNOWN = 2 };
+/** Group semantics (RFC 5888). */
+enum {
+    SDP_GROUP_LS = 0,     /**< lip synchronisation */
+    SDP_GROUP_FID = 1,    /**< flow identification */
+    SDP_GROUP_UNKNOWN = 2 /**< what parsing stores for any other word; cannot be written */
+};
 
 /** One a=group line. */
 typedef struct sdp_group {
@@ -83,19 +99,31 @@ typedef struct sdp_group {
 } sdp_group;
 
 /** Values of `precond_type`. */
-enum { SDP_PRECOND_UNKNOWN = 0, SDP_PRECOND_QOS = 1 };
+enum {
+    SDP_PRECOND_UNKNOWN = 0, /**< another word of a received line; cannot be written */
+    SDP_PRECOND_QOS = 1      /**< "qos" */
+};
 /** Values of `strength`. */
 enum {
-    SDP_STRENGTH_UNKNOWN = 0,
-    SDP_STRENGTH_NONE = 1,
-    SDP_STRENGTH_FAILURE = 2,
-    SDP_STRENGTH_OPTIONAL = 3,
-    SDP_STRENGTH_MANDATORY = 4
+    SDP_STRENGTH_UNKNOWN = 0,  /**< "unknown", in a refusal: a type that is not understood */
+    SDP_STRENGTH_NONE = 1,     /**< "none", no resources are needed */
+    SDP_STRENGTH_FAILURE = 2,  /**< "failure", in a refusal: cannot be met */
+    SDP_STRENGTH_OPTIONAL = 3, /**< "optional", resources are wanted */
+    SDP_STRENGTH_MANDATORY = 4 /**< "mandatory", no alerting before resources are there */
 };
 /** Values of `status_type`. */
-enum { SDP_STATUS_E2E = 1, SDP_STATUS_LOCAL = 2, SDP_STATUS_REMOTE = 3 };
+enum {
+    SDP_STATUS_E2E = 1,   /**< "e2e", from end to end */
+    SDP_STATUS_LOCAL = 2, /**< "local", the access network of whoever wrote the line */
+    SDP_STATUS_REMOTE = 3 /**< "remote", the access network of the other side */
+};
 /** Values of a precondition's `direction`. */
-enum { SDP_PRECOND_RECV = 1, SDP_PRECOND_SEND = 2, SDP_PRECOND_SENDRECV = 3, SDP_PRECOND_NONE = 5 };
+enum {
+    SDP_PRECOND_RECV = 1,     /**< "recv" */
+    SDP_PRECOND_SEND = 2,     /**< "send" */
+    SDP_PRECOND_SENDRECV = 3, /**< "sendrecv" */
+    SDP_PRECOND_NONE = 5      /**< "none" */
+};
 
 /** Status type and direction of a current or confirmed precondition. */
 typedef struct sdp_precond_status {
@@ -144,28 +172,45 @@ typedef struct sdp_payload_format {
     sdp_rtcp_fb rtcp_fb[SDP_MAX_RTCP_FB]; /**< the format's feedback */
 } sdp_payload_format;
 
-/** Media types. */
+/** A media type, #SDP_MEDIA_AUDIO and its fellows. */
 typedef uint32_t sdp_media_type;
+/** Media types. */
 enum {
-    SDP_MEDIA_AUDIO = 0,
-    SDP_MEDIA_VIDEO = 1,
-    SDP_MEDIA_DATA = 2,
-    SDP_MEDIA_CONTROL = 3,
-    SDP_MEDIA_MESSAGE = 4,
-    SDP_MEDIA_IMAGE = 5,
-    SDP_MEDIA_UNKNOWN = 6
+    SDP_MEDIA_AUDIO = 0,   /**< "audio" */
+    SDP_MEDIA_VIDEO = 1,   /**< "video" */
+    SDP_MEDIA_DATA = 2,    /**< "data"; neither read nor written */
+    SDP_MEDIA_CONTROL = 3, /**< "control"; neither read nor written */
+    SDP_MEDIA_MESSAGE = 4, /**< "message" */
+    SDP_MEDIA_IMAGE = 5,   /**< "image"; read and not written */
+    SDP_MEDIA_UNKNOWN = 6  /**< what parsing stores for any other word */
 };
 
-/** Transport profiles; TCP/TLS/MSRP can be parsed, not generated. */
+/** A transport profile, #SDP_RTP_AVP and its fellows. */
 typedef uint32_t sdp_transport;
-enum { SDP_RTP_AVP = 0, SDP_RTP_AVPF = 1, SDP_TCP_MSRP = 2, SDP_TCP_TLS_MSRP = 3, SDP_TRANSPORT_UNKNOWN = 5 };
+/** Transport profiles. */
+enum {
+    SDP_RTP_AVP = 0,          /**< "RTP/AVP" (RFC 3551) */
+    SDP_RTP_AVPF = 1,         /**< "RTP/AVPF" (RFC 4585) */
+    SDP_TCP_MSRP = 2,         /**< "TCP/MSRP" (RFC 4975) */
+    SDP_TCP_TLS_MSRP = 3,     /**< "TCP/TLS/MSRP" (RFC 4975); read and not written */
+    SDP_TRANSPORT_UNKNOWN = 5 /**< what parsing stores for any other profile */
+};
 
-/** Setup roles (RFC 4145). */
+/** A setup role, #SDP_SETUP_ACTIVE and its fellows. */
 typedef uint32_t sdp_setup;
-enum { SDP_SETUP_ACTIVE = 0, SDP_SETUP_PASSIVE = 1, SDP_SETUP_ACTPASS = 2, SDP_SETUP_HOLDCONN = 3 };
+/** Setup roles (RFC 4145). */
+enum {
+    SDP_SETUP_ACTIVE = 0,  /**< "active", opens the connection */
+    SDP_SETUP_PASSIVE = 1, /**< "passive", accepts the connection */
+    SDP_SETUP_ACTPASS = 2, /**< "actpass", either */
+    SDP_SETUP_HOLDCONN = 3 /**< "holdconn", no connection for the time being */
+};
 
 /** Values of `conn_status` (RFC 4145). */
-enum { SDP_CONNECTION_NEW = 0, SDP_CONNECTION_EXISTING = 1 };
+enum {
+    SDP_CONNECTION_NEW = 0,     /**< "new" */
+    SDP_CONNECTION_EXISTING = 1 /**< "existing" */
+};
 
 /** One media line. */
 typedef struct sdp_media_line {
@@ -189,9 +234,9 @@ typedef struct sdp_media_line {
     uint8_t direction_present;                   /**< a direction given */
     sdp_direction direction;                     /**< 1 recvonly, 2 sendonly, 3 sendrecv, 4 inactive */
     uint8_t framerate_present;                   /**< a=framerate given */
-    uint16_t framerate;                          /**< frames per second */
+    uint16_t framerate;                          /**< frames per second; decimals are not read */
     uint8_t maxprate_present;                    /**< a=maxprate given */
-    uint16_t maxprate;                           /**< packets per second */
+    uint16_t maxprate;                           /**< packets per second; decimals are not read */
     uint8_t precond_present;                     /**< preconditions given */
     uint32_t num_preconds;                       /**< entries; generation takes at most 9 */
     sdp_precondition preconds[SDP_MAX_PRECONDS]; /**< the preconditions */

@@ -26,7 +26,8 @@ extern "C" {
 uint32_t dak_app_oa_validate_answer(const sdp_container *answer, const sdp_container *offer);
 
 /**
- * Validates one media line of an answer. The first failure decides; all but those of preconditions are logged.
+ * Validates one media line of an answer. The first failure decides; all but those of preconditions are
+ * logged.
  * @param answer the answer
  * @param offer the offer
  * @param mline_index position of the line in both, 0 to 20

@@ -28,8 +28,8 @@ uint32_t dak_app_oa_validate_group_semantics(const sdp_container *container, con
  * @param container the container
  * @param group one of its groups
  * @param group_index its position among the container's groups
- * @return 0; 7, with a log line, for anything else, and 7 for a group of more than 20; 15, with a log line, for null or
- *         missing media lines
+ * @return 0; 7, with a log line, for anything else, and 7 for a group of more than 20; 15, with a log line,
+ *         for null or missing media lines
  */
 uint32_t dak_app_oa_validate_group_mids(const sdp_container *container, const sdp_group *group,
                                         uint32_t group_index);

@@ -34,7 +34,8 @@ uint32_t dak_app_oa_validate_modified_sdp(const sdp_container *modified, const s
 
 /**
  * The checks that both kinds of offer share: connection, bandwidth, groups, then each media line, then each
- * group. The first failure decides; all but some of the preconditions are logged. A session time other than 0 0 is logged and goes on.
+ * group. The first failure decides; all but some of the preconditions are logged. A session time other than 0
+ * 0 is logged and goes on.
  * @param offer the offer
  * @return 0; 1 for a media line without connection; 2 for an address; 3 for a zero bandwidth; 5 without a
  *         usable media line or for one without formats; 7 for a group; 8 for a mid; 11 for a format; 12 for a

@@ -1,11 +1,11 @@
-#ifndef DAKSDP_PORT_PORT_H
-#define DAKSDP_PORT_PORT_H
-
-/*
+/**
+ * @file
  * What the library asks of the platform. The library imports these functions and never defines
  * them: on Android the platform brings them, elsewhere a program links the stand-in of port/host
  * or one of its own. All of them may be called from any thread.
  */
+#ifndef DAKSDP_PORT_PORT_H
+#define DAKSDP_PORT_PORT_H
 
 #include <stddef.h>
 
@@ -13,6 +13,7 @@
 extern "C" {
 #endif
 
+/** Has the compiler check the arguments of a function against its format, as it does for printf. */
 #if defined(__GNUC__)
 #define DAK_PRINTF_LIKE(format_index, first_argument) \
     __attribute__((__format__(__printf__, format_index, first_argument)))
@@ -20,10 +21,10 @@ extern "C" {
 #define DAK_PRINTF_LIKE(format_index, first_argument)
 #endif
 
-/* The log priority of an error, the only one that the library uses. */
+/** The log priority of an error, the only one that the library uses. */
 #define DAK_LOG_ERROR 6
 
-/* The address family that platInetPton takes for IPv6, whatever the host's own number for it. */
+/** The address family that platInetPton takes for IPv6, whatever the host's own number for it. */
 #define DAK_FAMILY_IPV6 10
 
 /**

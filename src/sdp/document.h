@@ -41,7 +41,7 @@ int clean_sdp_info_container(sdp_info_container *document);
  */
 int add_media_description(sdp_info_container *document, media_description *description);
 
-/** Another name of add_media_description(). */
+/** Another name of add_media_description(). @copydetails add_media_description */
 int add_media_description_to_sdp_container(sdp_info_container *document, media_description *description);
 
 /**

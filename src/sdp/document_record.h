@@ -17,7 +17,10 @@ typedef struct media_description media_description;
 #define SDP_TEXT_CAPACITY 3584
 
 /** Document selectors. */
-enum { SDP_ENCODER_DOCUMENT = 0, SDP_PARSER_DOCUMENT = 1 };
+enum {
+    SDP_ENCODER_DOCUMENT = 0, /**< the document that dak_sdp_encode() writes */
+    SDP_PARSER_DOCUMENT = 1   /**< the document that sdp_parse() fills */
+};
 
 /** A further line of a session-line type, or a generic attribute of a media section. */
 typedef struct session_value {

@@ -21,7 +21,11 @@ extern "C" {
  */
 int set_payload_number(media_description *description, int32_t payload_number);
 
-/** Number of payload formats. @return 0, with an assertion report, for null */
+/**
+ * Counts the payload formats.
+ * @param description the media section
+ * @return the count, 0 to 20; 0, with an assertion report, for null
+ */
 int get_number_of_media_payload(const media_description *description);
 
 /**

@@ -41,13 +41,31 @@ media_description *init_empty_media_description(void);
  */
 int clean_media_description(media_description *description);
 
-/** Stores the port. @return 1; 0, with an assertion report, for null */
+/**
+ * Stores the port.
+ * @param description the media section
+ * @param port the port; its range is not checked
+ * @return 1; 0, with an assertion report, for null
+ */
 int set_media_port(media_description *description, uint32_t port);
-/** Stores the count of ports. @return 1; 0, with an assertion report, for null */
+/**
+ * Stores the count of ports.
+ * @param description the media section
+ * @param number the count, written behind the port and "/" when it is not 1; the encoder refuses 0
+ * @return 1; 0, with an assertion report, for null
+ */
 int set_number_of_media_port(media_description *description, uint32_t number);
-/** The port. @return 0, with an assertion report, for null */
+/**
+ * Gives the port.
+ * @param description the media section
+ * @return the port; 0, with an assertion report, for null
+ */
 uint32_t get_media_port(const media_description *description);
-/** The count of ports. @return 0, with an assertion report, for null */
+/**
+ * Gives the count of ports.
+ * @param description the media section
+ * @return the count, 1 when a received line has none; 0, with an assertion report, for null
+ */
 uint32_t get_number_of_media_port(const media_description *description);
 
 /**
@@ -68,9 +86,17 @@ int set_media_type(media_description *description, const char *text, uint32_t le
  */
 int set_transport_profile(media_description *description, const char *text, uint32_t length);
 
-/** The media type, owned by the section. @return null, with an assertion report, for null */
+/**
+ * Gives the media type.
+ * @param description the media section
+ * @return the text, owned by the section; null, with an assertion report, for null
+ */
 const char *get_media_type(const media_description *description);
-/** The transport profile, owned by the section. @return null, with an assertion report, for null */
+/**
+ * Gives the transport profile.
+ * @param description the media section
+ * @return the text, owned by the section; null, with an assertion report, for null
+ */
 const char *get_transport_profile(const media_description *description);
 
 /**

@@ -22,7 +22,11 @@ struct session_value;
 #define SDP_MAX_PRECONDITIONS 10
 
 /** Values of `address_type`. */
-enum { SDP_ADDRESS_IP4 = 0, SDP_ADDRESS_IP6 = 1, SDP_ADDRESS_OTHER = 2 };
+enum {
+    SDP_ADDRESS_IP4 = 0,  /**< "IP4" */
+    SDP_ADDRESS_IP6 = 1,  /**< "IP6" */
+    SDP_ADDRESS_OTHER = 2 /**< another word */
+};
 
 /** The address of an a=rtcp line (RFC 3605). */
 typedef struct rtcp_address_info {

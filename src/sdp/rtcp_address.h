@@ -13,9 +13,18 @@
 extern "C" {
 #endif
 
-/** Stores the RTCP port. @return 1; 0, with an assertion report, for null */
+/**
+ * Stores the RTCP port.
+ * @param description the media section
+ * @param port the port; its range is not checked
+ * @return 1; 0, with an assertion report, for null
+ */
 int set_rtcp_port(media_description *description, uint32_t port);
-/** The RTCP port, 0 without an a=rtcp line. @return 0, with an assertion report, for null */
+/**
+ * Gives the RTCP port.
+ * @param description the media section
+ * @return the port, 0 without an a=rtcp line; 0, with an assertion report, for null
+ */
 uint32_t get_rtcp_port(const media_description *description);
 
 /**
@@ -47,7 +56,11 @@ int parse_a_euqal_rtcp(const char *line_start, const char *line_end, uint32_t *p
                        rtcp_address_info *address);
 
 /** Results of get_media_rtcp_ip_address(). */
-enum { RTCP_ADDRESS_READ = 1, RTCP_ADDRESS_WRONG_TYPE = 4, RTCP_ADDRESS_MISSING = 5 };
+enum {
+    RTCP_ADDRESS_READ = 1,       /**< an address was read, whole or cut, or there were no words */
+    RTCP_ADDRESS_WRONG_TYPE = 4, /**< another network or address type */
+    RTCP_ADDRESS_MISSING = 5     /**< a word is missing */
+};
 
 /**
  * Reads network type, address type and address, separated by spaces.

@@ -12,7 +12,10 @@ extern "C" {
 #endif
 
 /** Modes of dak_atoi(); any value other than these two reads strict decimal. */
-enum { DAK_ATOI_LENIENT = 100, DAK_ATOI_HEX = 120 };
+enum {
+    DAK_ATOI_LENIENT = 100, /**< decimal digits up to LF, space, CR or "." */
+    DAK_ATOI_HEX = 120      /**< hexadecimal digits */
+};
 
 /**
  * Reads an unsigned number of at most 31 bits.

@@ -3,12 +3,8 @@
  * The EVRC family (RFC 3558, RFC 4788, RFC 5188): EVRC, EVRC-B and EVRC-WB, each in its bundled, header-free
  * ("0") and compact bundle ("1") form.
  *
- * An encoder takes the media section, the position of the payload format and the codec's block; it writes the
- * parameters that are present. It gives 0; 3, with a log line, for null; or the code of the parameter that
- * was refused (1, 4 or 7).
- *
- * A decoder fills the block. Unreadable numbers are left out. It gives 0; 3, with a log line, for null; 4,
- * with a log line, for an invalid mode, mode list, fixed rate or DTX value; 1 for too long a mode list.
+ * An encoder writes the parameters of a block that are present, a decoder fills a block. Which of them a
+ * codec has, its block tells.
  */
 #ifndef DAKSDP_OA_CODEC_EVRC_H
 #define DAKSDP_OA_CODEC_EVRC_H
@@ -22,41 +18,65 @@
 extern "C" {
 #endif
 
-/** Encoder of EVRC; the block is an #sdp_evrc_params. */
+/**
+ * Encoder of EVRC; the block is an #sdp_evrc_params.
+ * @param md the media section
+ * @param codec_index position of the payload format
+ * @param block the codec's parameter block; nothing is written unless its `fmtp_present` is set
+ * @return 0; 3, with a log line, for null; or the code of the parameter that was refused: 1, 4 or, of the DTX
+ *         parameters, 7
+ */
 uint32_t dak_app_sdp_encode_evrc(media_description *md, uint16_t codec_index, void *block);
-/** Decoder of EVRC. */
+/**
+ * Decoder of EVRC; the block is an #sdp_evrc_params.
+ * @param md the media section
+ * @param codec_index position of the payload format
+ * @param[out] block the codec's parameter block. Unreadable numbers are left out, fields of absent parameters
+ *         left alone; the DTX parameters are cleared first.
+ * @return 0; 3, with a log line, for null; 4, with a log line, for an invalid mode, mode list, fixed rate or
+ *         DTX value; 1, with a log line, for too long a mode list
+ */
 uint32_t dak_app_sdp_decode_evrc(media_description *md, uint16_t codec_index, void *block);
-/** Encoder of EVRC0; the block is an #sdp_evrc0_params. */
+/** Encoder of EVRC0; the block is an #sdp_evrc0_params. @copydetails dak_app_sdp_encode_evrc */
 uint32_t dak_app_sdp_encode_evrc0(media_description *md, uint16_t codec_index, void *block);
-/** Decoder of EVRC0. */
+/** Decoder of EVRC0; the block is an #sdp_evrc0_params. @copydetails dak_app_sdp_decode_evrc */
 uint32_t dak_app_sdp_decode_evrc0(media_description *md, uint16_t codec_index, void *block);
-/** Encoder of EVRC1; the block is an #sdp_evrc1_params. */
+/** Encoder of EVRC1; the block is an #sdp_evrc1_params. @copydetails dak_app_sdp_encode_evrc */
 uint32_t dak_app_sdp_encode_evrc1(media_description *md, uint16_t codec_index, void *block);
-/** Decoder of EVRC1. */
+/** Decoder of EVRC1; the block is an #sdp_evrc1_params. @copydetails dak_app_sdp_decode_evrc */
 uint32_t dak_app_sdp_decode_evrc1(media_description *md, uint16_t codec_index, void *block);
-/** Encoder of EVRCB; the block is an #sdp_evrcb_params. A mode that is refused is passed over. */
+/**
+ * Encoder of EVRCB; the block is an #sdp_evrcb_params. A mode that is refused is passed over.
+ * @copydetails dak_app_sdp_encode_evrc
+ */
 uint32_t dak_app_sdp_encode_evrcb(media_description *md, uint16_t codec_index, void *block);
-/** Decoder of EVRCB. Further recvmodes add to the map. */
+/**
+ * Decoder of EVRCB; the block is an #sdp_evrcb_params. Further recvmodes add to the map.
+ * @copydetails dak_app_sdp_decode_evrc
+ */
 uint32_t dak_app_sdp_decode_evrcb(media_description *md, uint16_t codec_index, void *block);
-/** Encoder of EVRCB0; the block is an #sdp_evrcb0_params. */
+/** Encoder of EVRCB0; the block is an #sdp_evrcb0_params. @copydetails dak_app_sdp_encode_evrc */
 uint32_t dak_app_sdp_encode_evrcb0(media_description *md, uint16_t codec_index, void *block);
-/** Decoder of EVRCB0. Further recvmodes add to the map. */
+/**
+ * Decoder of EVRCB0; the block is an #sdp_evrcb0_params. Further recvmodes add to the map.
+ * @copydetails dak_app_sdp_decode_evrc
+ */
 uint32_t dak_app_sdp_decode_evrcb0(media_description *md, uint16_t codec_index, void *block);
-/** Encoder of EVRCB1; the block is an #sdp_evrc1_params. */
+/** Encoder of EVRCB1; the block is an #sdp_evrc1_params. @copydetails dak_app_sdp_encode_evrc */
 uint32_t dak_app_sdp_encode_evrcb1(media_description *md, uint16_t codec_index, void *block);
-/** Decoder of EVRCB1. */
+/** Decoder of EVRCB1; the block is an #sdp_evrc1_params. @copydetails dak_app_sdp_decode_evrc */
 uint32_t dak_app_sdp_decode_evrcb1(media_description *md, uint16_t codec_index, void *block);
-/** Encoder of EVRCWB; the block is an #sdp_evrcb_params. */
+/** Encoder of EVRCWB; the block is an #sdp_evrcb_params. @copydetails dak_app_sdp_encode_evrc */
 uint32_t dak_app_sdp_encode_evrcwb(media_description *md, uint16_t codec_index, void *block);
-/** Decoder of EVRCWB. */
+/** Decoder of EVRCWB; the block is an #sdp_evrcb_params. @copydetails dak_app_sdp_decode_evrc */
 uint32_t dak_app_sdp_decode_evrcwb(media_description *md, uint16_t codec_index, void *block);
-/** Encoder of EVRCWB0; the block is an #sdp_evrcb0_params. */
+/** Encoder of EVRCWB0; the block is an #sdp_evrcb0_params. @copydetails dak_app_sdp_encode_evrc */
 uint32_t dak_app_sdp_encode_evrcwb0(media_description *md, uint16_t codec_index, void *block);
-/** Decoder of EVRCWB0. */
+/** Decoder of EVRCWB0; the block is an #sdp_evrcb0_params. @copydetails dak_app_sdp_decode_evrc */
 uint32_t dak_app_sdp_decode_evrcwb0(media_description *md, uint16_t codec_index, void *block);
-/** Encoder of EVRCWB1; the block is an #sdp_evrcwb1_params. */
+/** Encoder of EVRCWB1; the block is an #sdp_evrcwb1_params. @copydetails dak_app_sdp_encode_evrc */
 uint32_t dak_app_sdp_encode_evrcwb1(media_description *md, uint16_t codec_index, void *block);
-/** Decoder of EVRCWB1. */
+/** Decoder of EVRCWB1; the block is an #sdp_evrcwb1_params. @copydetails dak_app_sdp_decode_evrc */
 uint32_t dak_app_sdp_decode_evrcwb1(media_description *md, uint16_t codec_index, void *block);
 
 /**

@@ -1,11 +1,11 @@
-#ifndef DAKSDP_PORT_HOST_HOST_PORT_H
-#define DAKSDP_PORT_HOST_HOST_PORT_H
-
-/*
+/**
+ * @file
  * The platform off Android: the functions of port.h over the C library. What a program may choose
  * is where log lines go and what happens at a failure report. Both choices are process-wide and
  * unguarded: make them before a second thread uses the library.
  */
+#ifndef DAKSDP_PORT_HOST_HOST_PORT_H
+#define DAKSDP_PORT_HOST_HOST_PORT_H
 
 #ifdef __cplusplus
 extern "C" {
