@@ -21,7 +21,7 @@ typedef enum sdp_accept_type {
     SDP_ACCEPT_PNG = 6,         /**< image/png */
     SDP_ACCEPT_BMP = 7,         /**< image/bmp */
     SDP_ACCEPT_GIF = 8,         /**< image/gif */
-    SDP_ACCEPT_ANY = 9,         /**< * */
+    SDP_ACCEPT_ANY = 9,         /**< any type, "*" */
     SDP_ACCEPT_NONE = 10        /**< a place that no type of the line filled */
 } sdp_accept_type;
 
