@@ -2,7 +2,8 @@
  * @file
  * What the library asks of the platform. The library imports these functions and never defines
  * them: on Android the platform brings them, elsewhere a program links the stand-in of port/host
- * or one of its own. All of them may be called from any thread.
+ * or one of its own. All of them may be called from any thread. dak_strtok() is part of the
+ * platform; this release splits text by itself and does not import it.
  */
 #ifndef DAKSDP_PORT_PORT_H
 #define DAKSDP_PORT_PORT_H
