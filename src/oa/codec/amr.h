@@ -15,7 +15,7 @@ extern "C" {
 #endif
 
 /**
- * Writes the present parameters of a block, up to the first that is refused.
+ * Writes the present parameters of a block of AMR, AMR-WB or G722_2, up to the first that is refused.
  * @param md the media section
  * @param codec_index position of the payload format
  * @param block an #sdp_amr_params
@@ -24,7 +24,8 @@ extern "C" {
 uint32_t dak_app_sdp_encode_amr(media_description *md, uint16_t codec_index, void *block);
 
 /**
- * Fills a block. Unreadable values are logged and left out.
+ * Fills a block of AMR, AMR-WB or G722_2 from the parameters of a payload format. Unreadable values are
+ * logged and left out.
  * @param md the media section
  * @param codec_index position of the payload format
  * @param[out] block an #sdp_amr_params; fields of absent parameters are left alone

@@ -15,7 +15,7 @@ extern "C" {
 #endif
 
 /**
- * Writes the present parameters of a block, up to the first that is refused.
+ * Writes the present parameters of a block of H264, up to the first that is refused.
  * @param md the media section
  * @param codec_index position of the payload format
  * @param block an #sdp_h264_params
@@ -24,7 +24,8 @@ extern "C" {
 uint32_t dak_app_sdp_encode_h264(media_description *md, uint16_t codec_index, void *block);
 
 /**
- * Fills a block. Texts are cut to 119 characters, their lengths kept; unreadable numbers are left out.
+ * Fills a block of H264 from the parameters of a payload format. Texts are cut to 119 characters, their
+ * lengths kept; unreadable numbers are left out.
  * @param md the media section
  * @param codec_index position of the payload format
  * @param[out] block an #sdp_h264_params; fields of absent parameters are left alone

@@ -25,7 +25,8 @@ extern "C" {
 uint32_t dak_app_sdp_encode_mp4_es(media_description *md, uint16_t codec_index, void *block);
 
 /**
- * Fills a block. A config that is not hexadecimal is left out.
+ * Fills a block of MP4V-ES from the parameters of a payload format. A config that is not hexadecimal is left
+ * out.
  * @param md the media section
  * @param codec_index position of the payload format
  * @param[out] block an #sdp_mp4_es_params; fields of absent parameters are left alone

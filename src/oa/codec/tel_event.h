@@ -15,7 +15,7 @@ extern "C" {
 #endif
 
 /**
- * Writes the events list of a block, if it has one.
+ * Writes the events list of a block of telephone-event, if it has one.
  * @param md the media section
  * @param codec_index position of the payload format
  * @param block an #sdp_tel_event_params
@@ -24,7 +24,7 @@ extern "C" {
 uint32_t dak_app_sdp_encode_tel_event(media_description *md, uint16_t codec_index, void *block);
 
 /**
- * Fills a block; what it held is cleared.
+ * Fills a block of telephone-event from the parameters of a payload format; what it held is cleared.
  * @param md the media section
  * @param codec_index position of the payload format
  * @param[out] block an #sdp_tel_event_params
