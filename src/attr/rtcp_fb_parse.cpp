@@ -14,11 +14,12 @@ namespace {
 
 constexpr int max_payloads_of_line = 5;
 
-// What a line says behind its payload part.
+// What a line says behind its payload part. No defaults: for records that begin as a constant with pointers,
+// some compilers keep a template that can be written to.
 struct feedback_tail {
-    uint32_t fb_type = RTCP_FB_UNSUPPORTED;
-    uint32_t subtype = 0;
-    bool sets_present = false;
+    uint32_t fb_type;
+    uint32_t subtype;
+    bool sets_present;
     text_range param;
 };
 
@@ -35,24 +36,17 @@ bool take_if(text_range &rest, const char *word)
 
 feedback_tail read_nack(text_range rest)
 {
-    feedback_tail tail;
-    tail.fb_type = RTCP_FB_NACK;
-    tail.sets_present = true;
-    tail.subtype = take_if(rest, "pli") ? RTCP_FB_NACK_PLI : RTCP_FB_NACK_PLAIN;
-    tail.param = rest.trimmed();
-    return tail;
+    const uint32_t subtype = take_if(rest, "pli") ? RTCP_FB_NACK_PLI : RTCP_FB_NACK_PLAIN;
+    return {RTCP_FB_NACK, subtype, true, rest.trimmed()};
 }
 
 // Any word behind "ccm" is taken for its subtype; one that is unknown leaves the list as present as it was.
 feedback_tail read_ccm(text_range rest)
 {
-    feedback_tail tail;
-    tail.fb_type = RTCP_FB_CCM;
     const text_range word = rest.take_word();
-    tail.sets_present = word.equals("fir") || word.equals("tmmbr");
-    tail.subtype = word.equals("tmmbr") ? RTCP_FB_CCM_TMMBR : RTCP_FB_CCM_FIR;
-    tail.param = rest.trimmed();
-    return tail;
+    const bool is_tmmbr = word.equals("tmmbr");
+    const uint32_t subtype = is_tmmbr ? RTCP_FB_CCM_TMMBR : RTCP_FB_CCM_FIR;
+    return {RTCP_FB_CCM, subtype, is_tmmbr || word.equals("fir"), rest.trimmed()};
 }
 
 feedback_tail read_tail(text_range rest, bool takes_ccm)
@@ -61,7 +55,7 @@ feedback_tail read_tail(text_range rest, bool takes_ccm)
         return read_nack(rest);
     if (takes_ccm && take_if(rest, "ccm"))
         return read_ccm(rest);
-    return {};
+    return {RTCP_FB_UNSUPPORTED, 0, false, {rest.last, rest.last}};
 }
 
 bool is_full(const rtcp_fb_list &list)

@@ -91,6 +91,14 @@ struct text_builder {
     const char *refused;
 };
 
+// Named: for unnamed ones, some compilers keep templates that can be written to.
+constexpr text_builder name_builder = {
+    "s=", "dak_app_oa_encode_session:Malloc failed\n",
+    "dak_app_oa_encode_session:                                     Invalid session tag\n"};
+constexpr text_builder info_builder = {
+    "i=", "dak_app_oa_encode_info:Malloc failed \n",
+    "dak_app_oa_encode_info:Invalid SDP context                                              value\n"};
+
 uint32_t encode_text(sdp_lib_context *document, text_range value, const text_builder &builder)
 {
     heap_text text(value.length() + 2);
@@ -238,10 +246,7 @@ uint32_t dak_app_oa_encode_session(sdp_lib_context *document, const sdp_containe
     if (container->session_name_present == 0)
         return store(document, "s=", "-",
                      "dak_app_oa_encode_session:                              Invalid session tag\n");
-    return encode_text(
-        document, field_text(container->session_name),
-        {"s=", "dak_app_oa_encode_session:Malloc failed\n",
-         "dak_app_oa_encode_session:                                     Invalid session tag\n"});
+    return encode_text(document, field_text(container->session_name), name_builder);
 }
 
 uint32_t dak_app_oa_encode_info(sdp_lib_context *document, const sdp_container *container)
@@ -250,10 +255,7 @@ uint32_t dak_app_oa_encode_info(sdp_lib_context *document, const sdp_container *
         return SDP_OA_BAD_PARAMETERS;
     if (container->info_present == 0)
         return SDP_OA_SUCCESS;
-    return encode_text(
-        document, field_text(container->info),
-        {"i=", "dak_app_oa_encode_info:Malloc failed \n",
-         "dak_app_oa_encode_info:Invalid SDP context                                              value\n"});
+    return encode_text(document, field_text(container->info), info_builder);
 }
 
 uint32_t dak_app_oa_encode_bw(sdp_lib_context *document, const sdp_container *container)
