@@ -1,6 +1,6 @@
-// The layout that callers compiled against: the same on 32-bit ARM, AArch64 and x86-64, but for the pointer
-// at the container's end.
+// The layout that callers compiled against: the same on 32-bit ARM, AArch64 and x86-64, but for pointers.
 
+#include "oa/codec/mime_table.h"
 #include "oa/sdp_container.h"
 
 #include <stddef.h>
@@ -13,13 +13,24 @@ static_assert(sizeof(sdp_precondition) == 20);
 static_assert(sizeof(sdp_rtcp_fb) == 264);
 static_assert(sizeof(dtx_params) == 8);
 static_assert(sizeof(sdp_amr_params) == 48);
+static_assert(sizeof(sdp_evrc_params) == 14);
+static_assert(sizeof(sdp_evrc0_params) == 10);
+static_assert(sizeof(sdp_evrc1_params) == 16);
+static_assert(sizeof(sdp_evrcb_params) == 20);
+static_assert(sizeof(sdp_evrcb0_params) == 16);
+static_assert(sizeof(sdp_evrcwb1_params) == 20);
+static_assert(sizeof(sdp_fixedrate_part) == 8);
 static_assert(sizeof(sdp_h264_params) == 400);
 static_assert(sizeof(sdp_codec_params) == 400);
 static_assert(sizeof(sdp_mp4_es_params) == 130);
 static_assert(sizeof(h263_params) == 140);
+static_assert(sizeof(sdp_h263_1998_params) == 144);
+static_assert(sizeof(sdp_h263_2000_params) == 152);
 static_assert(sizeof(sdp_tel_event_params) == 132);
 static_assert(sizeof(sdp_payload_format) == 1736);
 static_assert(sizeof(sdp_media_line) == 42600);
+static_assert(sizeof(sdp_payload_buffer) == 2 * sizeof(void *));
+static_assert(sizeof(sdp_mime_entry) == (sizeof(void *) == 8 ? 280 : 268));
 
 // i386 aligns 64-bit numbers to 4 bytes; everything else lays the container out alike.
 static_assert(alignof(uint64_t) != 8 || sizeof(sdp_container) == (sizeof(void *) == 8 ? 2072 : 2064));
