@@ -36,3 +36,9 @@ target_link_options(daksdp PRIVATE
     LINKER:-Bsymbolic-functions
     LINKER:-z,relro
     LINKER:-z,now)
+
+# Phones have kernels with pages of 16 KB, and of 4 KB, which can map the same segments.
+if(ANDROID OR CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)")
+    set(daksdp_has_large_pages ON)
+    target_link_options(daksdp PRIVATE LINKER:-z,max-page-size=16384 LINKER:-z,common-page-size=16384)
+endif()

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Checks what the linker sees of the built library.
 #
-# usage: abi_test.sh exports|needed|soname|undefined|writable
+# usage: abi_test.sh exports|needed|soname|undefined|writable|pages|thumb
 #
 # MAP, SHARED and ARCHIVE name the version script and the two libraries; NM and READELF the tools.
 set -euo pipefail
@@ -90,13 +90,59 @@ writable_sections() {
         END { if (!objects) print "no objects in the archive" }'
 }
 
+# What the shared library's symbol table has in a section that stays writable. The start-up code that every
+# library is linked with brings a flag and two marks.
+writable_symbols() {
+    "$READELF" -SsW "$SHARED" | awk '
+        /^ *\[ *[0-9]+\]/ {
+            gsub(/[][]/, " ")
+            if ($2 !~ /^\.(data\.rel\.ro|dynamic|got|got\.plt|(init|fini)_array)$/ && $8 ~ /W/ && $8 ~ /A/)
+                open_to_writing[$1] = $2
+        }
+        $7 in open_to_writing && $4 != "SECTION" && $8 !~ /^([$]d|completed\.0|__dso_handle|__TMC_END__)/ {
+            print $8, "of", $3, "bytes in", open_to_writing[$7]
+        }
+        /^Symbol table .\.symtab/ { ++tables }
+        END { if (!tables) print "no symbol table in the shared library" }'
+}
+
 check_writable() {
-    local sections
-    sections=$(writable_sections)
-    expect_none "writable data" "$sections"
+    local status=0
+    expect_none "writable data" "$(writable_sections)" || status=1
+    expect_none "writable symbols" "$(writable_symbols)" || status=1
+    return $status
+}
+
+# Kernels with pages of 16 KB map segments from such pages, and close relocated constants against writing up
+# to the end of one.
+check_pages() {
+    local kind address size align segments=0 status=0
+    while read -r kind address size align; do
+        segments=$((segments + 1))
+        case $kind in
+        LOAD) ((align % 16384 == 0)) ;;
+        GNU_RELRO) (((address + size) % 16384 == 0)) ;;
+        esac || { echo "not for pages of 16 KB: $kind $address $size $align" >&2; status=1; }
+    done < <("$READELF" -lW "$SHARED" | awk '$1 == "LOAD" || $1 == "GNU_RELRO" { print $1, $3, $6, $NF }')
+    [ $segments -ge 3 ] || { echo "only $segments segments" >&2; status=1; }
+    return $status
+}
+
+# 32-bit ARM: ARMv7-A with floating point in registers, and every exported function in Thumb-2.
+check_thumb() {
+    local tag attributes status=0
+    attributes=$("$READELF" -A "$SHARED")
+    for tag in 'Tag_CPU_arch: v7' 'Tag_THUMB_ISA_use: Thumb-2' 'Tag_ABI_VFP_args: VFP registers'; do
+        grep -qF "$tag" <<<"$attributes" || { echo "not there: $tag" >&2; status=1; }
+    done
+    # A Thumb function's address is odd in the symbol table.
+    expect_none "functions in ARM code" "$("$READELF" --dyn-syms -W "$SHARED" | awk '
+        $4 == "FUNC" && $7 != "UND" { ++functions; if ($2 ~ /[02468ace]$/) print $8 }
+        END { if (!functions) print "no functions" }')" || status=1
+    return $status
 }
 
 case ${1:-} in
-exports | needed | soname | undefined | writable) "check_$1" ;;
+exports | needed | soname | undefined | writable | pages | thumb) "check_$1" ;;
 *) sed -n '2,6s/^# \{0,1\}//p' "$0" >&2 && exit 2 ;;
 esac
