@@ -3,7 +3,7 @@
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 jobs=$(nproc)
 
-build_packages=(build-essential cmake ninja-build libgtest-dev libgmock-dev libcli11-dev nlohmann-json3-dev)
+build_packages=(build-essential cmake ninja-build libgtest-dev libgmock-dev libcli11-dev nlohmann-json3-dev pkgconf)
 
 package_installed() {
     [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
