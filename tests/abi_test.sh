@@ -98,6 +98,7 @@ writable_symbols() {
             gsub(/[][]/, " ")
             if ($2 !~ /^\.(data\.rel\.ro|dynamic|got|got\.plt|(init|fini)_array)$/ && $8 ~ /W/ && $8 ~ /A/)
                 open_to_writing[$1] = $2
+            next
         }
         $7 in open_to_writing && $4 != "SECTION" && $8 !~ /^([$]d|completed\.0|__dso_handle|__TMC_END__)/ {
             print $8, "of", $3, "bytes in", open_to_writing[$7]
