@@ -73,6 +73,8 @@ check_undefined() {
     local imports pattern
     imports=$("$NM" -D --undefined-only "$SHARED" | awk '{ sub(/@.*/, "", $NF); print $NF }' | sort -u)
     grep -qx dak_malloc <<<"$imports" || { echo "dak_malloc is not imported: not the library?" >&2; return 1; }
+    # The compiler's division routines for 32-bit ARM raise a signal when the divisor is zero.
+    ! "$READELF" -h "$SHARED" | grep -q 'Machine: *ARM$' || allowed_imports+=' raise'
     pattern=$(words_as_lines <<<"$allowed_imports" | paste -sd '|')
     expect_none "imports beyond what is allowed" "$(grep -vxE "$pattern" <<<"$imports" || true)"
 }
