@@ -14,6 +14,8 @@ function(daksdp_library_flags target)
         -Wno-sign-conversion
         # Log formats travel through one function, where they are no literals any more.
         -Wformat=2 -Wno-format-nonliteral
+        # C headers alone: the library builds where there is no C++ library.
+        $<$<COMPILE_LANGUAGE:CXX>:-nostdinc++>
         -fno-exceptions
         -fno-rtti
         -fno-threadsafe-statics

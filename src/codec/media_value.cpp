@@ -4,8 +4,6 @@
 #include "sdp/codec_access.hpp"
 #include "util/bounded_text.hpp"
 
-#include <bit>
-
 using namespace dak;
 
 namespace {
@@ -96,7 +94,7 @@ uint32_t dak::set_slots(const media_codec &codec, const codec_kind &kind)
 const char *dak::get_parameter(media_codec &codec, const codec_kind &kind, uint32_t slots, text_range name)
 {
     for (; !name.empty() && slots != 0; slots &= slots - 1) {
-        const int slot = std::countr_zero(slots);
+        const int slot = __builtin_ctz(slots);
         if (is_named(codec.info, kind, slot, name))
             return codec.info.param_value[slot];
     }

@@ -4,7 +4,6 @@
 
 #include "util/text_range.hpp"
 
-#include <bit>
 #include <stdint.h>
 #include <string.h>
 
@@ -38,8 +37,9 @@ inline uint64_t control_characters(const char *position)
     constexpr uint64_t each = 0x0101010101010101;
     uint64_t word = 0;
     memcpy(&word, position, sizeof word);
-    if constexpr (std::endian::native == std::endian::big)
-        word = __builtin_bswap64(word);
+#if __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__
+    word = __builtin_bswap64(word);
+#endif
     return (word - each * 16) & ~word & each << 7;
 }
 
@@ -48,7 +48,7 @@ inline const char *find_line_term(const char *position, const char *end)
 {
     while (end - position >= 8) {
         const uint64_t controls = control_characters(position);
-        position += controls != 0 ? std::countr_zero(controls) / 8 : 8;
+        position += controls != 0 ? __builtin_ctzll(controls) / 8 : 8;
         if (controls != 0 && is_line_term(*position))
             return position;
         position += controls != 0;
