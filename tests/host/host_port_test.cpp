@@ -77,33 +77,21 @@ TEST_F(HostPort, failure_reports_reach_the_hook_while_it_is_set)
     EXPECT_EQ(reports, 2);
 }
 
-std::vector<std::string> tokens_of(std::string text, const char *delimiters)
-{
-    std::vector<std::string> tokens;
-    char *save = nullptr;
-    for (char *at = dak_strtok(text.data(), delimiters, &save); at;
-         at = dak_strtok(nullptr, delimiters, &save))
-        tokens.emplace_back(at);
-    EXPECT_EQ(dak_strtok(nullptr, delimiters, &save), nullptr) << "a text that ran out stays so";
-    save = nullptr;
-    EXPECT_EQ(dak_strtok(nullptr, delimiters, &save), nullptr) << "no place, no token";
-    return tokens;
-}
-
 TEST_F(HostPort, tokens_stand_between_runs_of_delimiters)
 {
-    using words = std::vector<std::string>;
-    const struct {
-        const char *text;
-        words tokens;
-    } rows[] = {
-        {"", {}},
-        {" \r\n", {}},
-        {"IN", {"IN"}},
-        {" IN  IP6 ::1\r\n", {"IN", "IP6", "::1"}},
-    };
-    for (const auto &row : rows)
-        EXPECT_EQ(tokens_of(row.text, " \r\n"), row.tokens) << '"' << row.text << '"';
+    const std::pair<std::string, std::vector<std::string>> rows[] = {
+        {"", {}}, {" \r\n", {}}, {"IN", {"IN"}}, {" IN  IP6 ::1\r\n", {"IN", "IP6", "::1"}}};
+    for (const auto &[text, tokens] : rows) {
+        std::string rest = text;
+        std::vector<std::string> found;
+        char *save = nullptr;
+        for (char *at = dak_strtok(rest.data(), " \r\n", &save); at; at = dak_strtok(nullptr, " \r\n", &save))
+            found.emplace_back(at);
+        EXPECT_EQ(found, tokens) << text;
+        EXPECT_EQ(dak_strtok(nullptr, " \r\n", &save), nullptr) << "a text that ran out stays so";
+        save = nullptr;
+        EXPECT_EQ(dak_strtok(nullptr, " \r\n", &save), nullptr) << "no place, no token";
+    }
 }
 
 TEST_F(HostPort, ipv6_addresses_become_sixteen_bytes)
