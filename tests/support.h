@@ -1,6 +1,9 @@
 #ifndef DAKSDP_TESTS_SUPPORT_H
 #define DAKSDP_TESTS_SUPPORT_H
 
+#include <fstream>
+#include <iterator>
+#include <map>
 #include <sstream>
 #include <string>
 #include <type_traits>
@@ -19,6 +22,12 @@ inline outcome logged(int result, std::string log, std::string text = "")
 inline std::string xs(std::size_t count) { return std::string(count, 'x'); }
 
 inline std::string text_of(const char *text) { return text != nullptr ? text : "(null)"; }
+
+inline std::string read_file(const std::string &path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
 
 // Makes a call; a text that it gives is the outcome's text, a pointer its result.
 template <class Function, class... Arguments> outcome call(Function function, Arguments &&...arguments)
@@ -59,6 +68,93 @@ protected:
     media_description *section; // null once a document has it
 };
 
+// The fields of a record as "  name one|two|three", or nothing when all are zero or empty.
+template <class... Fields> std::string shown(const char *name, const Fields &...fields)
+{
+    std::ostringstream out;
+    ((out << fields << '|'), ...);
+    std::string text = out.str();
+    text.pop_back();
+    return text.find_first_not_of("0|") == text.npos ? "" : std::string("  ") + name + " " + text + "\n";
+}
+
+// The feedback of one payload format, or of all for an index of -1. The readers are to leave the subtype of the
+// other type, here 9, alone.
+inline std::string feedback(const media_description *section, int codec)
+{
+    static const std::map<uint32_t, const char *> words = {
+        {190, "nack"}, {191, "nack pli"}, {209, "ccm fir"}, {219, "ccm tmmbr"}, {499, "unsupported"}};
+    const int count = codec < 0 ? dak_sdp_get_number_of_m_rtcp_fb_attrs(section)
+                                : dak_sdp_get_number_of_rtcp_fb_attrs(section, codec);
+    std::string text;
+    for (int i = 0; i < count; ++i) {
+        rtcp_fb_kind kind{9, 9, 9};
+        const char *parameter = section->rtcp_fb.fb_entries[i].fb_param;
+        if (codec >= 0)
+            parameter = dak_sdp_get_media_rtcp_fb_type(section, &kind, i, codec);
+        else
+            EXPECT_NE(dak_sdp_get_media_m_rtcp_fb_type(section, &kind, i), nullptr);
+        const uint32_t all = kind.fb_type * 100 + kind.ccm_subtype * 10 + kind.nack_subtype;
+        text += (i > 0 ? ", " : "") + (words.count(all) ? words.at(all) : std::to_string(all));
+        text += *parameter != '\0' ? std::string("<") + parameter + ">" : "";
+    }
+    return text;
+}
+
+// The preconditions, and one entry behind them that a reader of lines may have begun.
+inline std::string preconditions(const media_description *section)
+{
+    std::string text;
+    for (int i = 0; i < SDP_MAX_PRECONDITIONS && section->pcd_present == 1; ++i) {
+        uint32_t kind = 0;
+        const char *value = i <= section->pcd_count ? get_media_precond_attr(section, &kind, i) : "";
+        text += shown("precondition", kind, value);
+    }
+    return text;
+}
+
+inline std::string message_session(const media_description *section)
+{
+    sdp_accept_attr plain, wrapped;
+    sdp_path_attr path;
+    sdp_max_size_attr size;
+    dak_sdp_get_message_accept_attrs(&plain, section);
+    dak_sdp_get_message_accept_wrapped_attrs(&wrapped, section);
+    dak_sdp_get_message_path_attrs(&path, section);
+    dak_sdp_get_message_max_size_attrs(&size, section);
+    const auto types = [](const char *name, const sdp_accept_attr &of) {
+        return shown(name, of.present, of.kind, of.count, of.types[0], of.types[1], of.types[2], of.types[3],
+                     of.types[4]);
+    };
+    return types("types", plain) + types("wrapped", wrapped) +
+           shown("path", path.present, path.scheme, path.user, path.host, path.host_is_ipv6, path.port,
+                 path.session_id, path.transport) +
+           shown("size", size.present, size.max_size);
+}
+
+inline std::string file_transfer(const media_description *section)
+{
+    sdp_file_disposition disposition;
+    sdp_file_date date;
+    sdp_file_range range;
+    dak_sdp_get_message_file_disposition_attrs(&disposition, section);
+    dak_sdp_get_message_file_date_attrs(&date, section);
+    dak_sdp_get_message_file_range_attrs(&range, section);
+    std::string text = shown("id", dak_sdp_get_message_file_transfer_id_attrs(section)) +
+                       shown("disposition", disposition.present, disposition.disposition) +
+                       shown("date", date.creation, date.modification, date.read) +
+                       shown("icon", dak_sdp_get_message_file_icon_attrs(section)) +
+                       shown("range", range.start, range.stop) +
+                       shown("files", dak_sdp_get_message_num_of_file_selectors_attrs(section));
+    for (int i = 0; i < SDP_MAX_FILE_SELECTORS; ++i) {
+        sdp_file_selector file;
+        dak_sdp_get_message_file_selector_attrs(&file, section, i);
+        text += shown("file", file.name, file.type, file.size, file.hash_alg, file.hash_len, file.hash,
+                      int(file.empty));
+    }
+    return text;
+}
+
 // What the readers of a media section give, a line for each thing that it holds.
 inline std::string dump(media_description *section)
 {
@@ -82,11 +178,15 @@ inline std::string dump(media_description *section)
             out << ' ' << get_media_codec_mime_type_by_index(section, i) << '/'
                 << get_media_codec_sample_rate_by_index(section, i) << '/'
                 << get_media_code_encoding_param_by_index(section, i);
+        const char *glue = " ";
         for (const char *name : section->codecs[i].info.param_name)
             if (const char *value = get_media_value(section, i, name))
-                out << ' ' << name << '=' << value;
-        out << (dak_sdp_get_media_rtcp_fb_valid_flag_by_index(section, i) == 1 ? " feedback\n" : "\n");
+                out << std::exchange(glue, ";") << name << '=' << value;
+        out << (dak_sdp_get_media_rtcp_fb_valid_flag_by_index(section, i) == 1 ? " feedback " : "")
+            << feedback(section, i) << '\n';
     }
+    out << shown("feedback", feedback(section, -1)) << preconditions(section) << message_session(section)
+        << file_transfer(section);
     for (const session_value *attribute = section->attributes; attribute != nullptr;
          attribute = attribute->next)
         out << "  a=" << attribute->text << '\n';

@@ -61,30 +61,4 @@ TEST_F(Document, a_gap_is_not_counted_and_cannot_be_written)
     EXPECT_EQ(call(dak_sdp_encode, context), logged(0, "")) << "the second of two is not there";
 }
 
-template <class... Outcome> void expect_refused(Outcome... seen)
-{
-    EXPECT_EQ((std::vector<outcome>{seen...}), std::vector<outcome>(sizeof...(seen), refused));
-}
-
-TEST_F(Document, null_is_reported_and_refused)
-{
-    char room[256];
-    const char *none = nullptr;
-    expect_refused(
-        call(create_string, room, nullptr, 3), call(dak_strlcpy, nullptr, "", 4),
-        call(set_session_value, nullptr, 0, "a=", ""), call(set_session_value, context, 0, "a=", nullptr),
-        call(parse_session_value, nullptr, "v", "v"), call(get_session_value, nullptr, 0, "a="),
-        call(get_session_attribute_value, nullptr, 0, "", room), call(clean_sdp_info_container, nullptr),
-        call(fill_sdp_buffer, context, nullptr), call(get_sdp_text, nullptr), call(dak_sdp_encode, nullptr),
-        call(dak_sdp_encode_m_equal, context, nullptr), call(dak_sdp_encode_media_codec, context, nullptr, 0),
-        call(dak_encode_media_attribute, nullptr, section), call(clean_media_description, nullptr),
-        call(init_media_description, "", 1, 1, nullptr, nullptr, 0), call(get_media_type, nullptr),
-        call(set_media_format, section, nullptr, 1), call(set_payload_number, nullptr, 0),
-        call(get_media_codec_mime_type_by_index, nullptr, 0), call(get_media_port, nullptr),
-        call(dak_sdp_set_media_value, section, nullptr, ""), call(find_tag, "", nullptr),
-        call(set_media_description_attribute, section, nullptr, ""), call(sdp_parse, context, nullptr, 1),
-        call(dak_sdp_get_number_of_attribute_values, nullptr, ""), call(sdp_parse, nullptr, "", 1),
-        call(parse_session_info, context, &none, ""), call(process_media_attribute, &none, "", section));
-}
-
 } // namespace

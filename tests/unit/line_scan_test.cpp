@@ -33,21 +33,13 @@ TEST_F(LineScan, each_skip_stops_at_its_own_characters_or_at_the_end)
 
 TEST_F(LineScan, lines_end_at_any_terminator_and_blank_ones_are_skipped)
 {
-    const std::pair<std::string_view, std::vector<std::string>> rows[] = {
-        {"v=0\r\n\r\ns=-\r\n", {"v=0", "s=-"}},
-        {"\n \tv=0\t \r\r \n  s=-", {"v=0\t ", "s=-"}},
-        {" \t\r\n\r ", {}},
-        {"", {}}};
-    for (const auto &[body, lines] : rows) {
-        const heap_text text(body);
-        std::vector<std::string> found;
-        const char *start = nullptr;
-        for (const char *at = text.begin(); get_next_line(at, text.end(), &start, &at) == 1;)
-            found.emplace_back(start, at);
-        EXPECT_EQ(found, lines) << testing::PrintToString(body);
-    }
-    const char *start = "v=0";
-    const char *stop = start;
+    const heap_text text("\n \tv=0\t \r\r \n  s=-\r\n\r\nt=");
+    std::vector<std::string> found;
+    const char *start = nullptr;
+    for (const char *at = text.begin(); get_next_line(at, text.end(), &start, &at) == 1;)
+        found.emplace_back(start, at);
+    EXPECT_EQ(found, (std::vector<std::string>{"v=0\t ", "s=-", "t="}));
+    const char *stop = start = "v=0";
     EXPECT_EQ(get_next_line(nullptr, start + 3, &start, &stop), 0);
     EXPECT_TRUE(start == nullptr && stop == nullptr);
 }
@@ -60,7 +52,6 @@ TEST_F(LineScan, a_character_is_sought_up_to_and_at_the_end)
          {std::tuple(0, 'a', 0), {0, ';', 3}, {3, ';', 3}, {0, 'x', 4}, {3, 'x', 4}})
         EXPECT_EQ(skip_to_char(text.begin() + position, text.begin() + 3, character), text.begin() + found);
     EXPECT_EQ(call(skip_to_char, text.begin() + 3, text.begin() + 2, ';'), refused) << "behind the end";
-    EXPECT_EQ(call(skip_to_char, nullptr, text.end(), ';'), refused);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "sdp/media_description.h"
 
 #include "sdp/media_codecs.h"
+#include "sdp/media_values.h"
 #include "support.h"
 
 namespace {
@@ -63,7 +64,7 @@ TEST_F(MediaDescription, holds_twenty_different_payload_numbers)
 
 TEST_F(MediaDescription, a_name_is_bound_to_a_payload_number_of_the_section)
 {
-    const section_ptr bound = new_section("RTP/AVP", {{97, "amr"}, {0, nullptr}});
+    const section_ptr bound = new_section("RTP/AVP 97=amr 0");
     media_description *const m = bound.get();
     set_media_value(m, 0, "octet-align", "1");
     EXPECT_EQ(set_payload_number(m, 98), 1) << "a number joins behind";
@@ -89,6 +90,25 @@ TEST_F(MediaDescription, a_name_is_bound_to_a_payload_number_of_the_section)
         EXPECT_EQ(call(get_media_rtpmap_valid_flag_by_index, m, index), seen) << index;
     }
     EXPECT_EQ(call(get_media_codec_payload_number_by_index, m, 3), refused);
+}
+
+TEST_F(MediaDescription, each_type_of_value_has_its_places)
+{
+    const auto set = [&](const char *type, const std::string &value) {
+        return call(dak_sdp_set_media_value, section, type, value.c_str());
+    };
+    EXPECT_EQ(set("i=", xs(200)), logged(0, "src str len exceeds dest str len 200\n"))
+        << "and takes no place";
+    for (const char *type : {"k=", "b=", "B=", "b=", "b=", "c="})
+        EXPECT_EQ(set(type, type), done);
+    EXPECT_EQ(set("i=", xs(199)), done);
+    for (const std::string type : {"b=", "c=", "t=", "b"})
+        EXPECT_EQ(set(type.c_str(), "x"), logged(0, "No entry found for the tag " + type + " \n"));
+    EXPECT_EQ(dump(section), "m=audio 49170/1 RTP/AVP\n  i=" + xs(199) +
+                                 "\n  c=c=\n  b=b=\n  b=B=\n  b=b=\n  b=b=\n  k=k=\n");
+    EXPECT_STREQ(get_media_description_value(section, "b="), "B=") << "this one reads the second";
+    EXPECT_EQ(get_media_description_value(section, "c="), nullptr);
+    EXPECT_EQ(get_media_description_value_by_index(section, 0, "B="), nullptr) << "read with regard to case";
 }
 
 } // namespace
