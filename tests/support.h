@@ -49,6 +49,15 @@ template <class Function, class... Arguments> outcome call(Function function, Ar
     return outcome_of(make, [&] { return text; });
 }
 
+// Makes a call; `show` tells afterwards what it left behind.
+template <class Show, class Function, class... Arguments>
+outcome call_then(Show show, Function function, Arguments &&...arguments)
+{
+    outcome seen = call(function, arguments...);
+    seen.text = show();
+    return seen;
+}
+
 // A test on a fresh context and a media section that is in no document.
 class ContextTest : public PlatformTest {
 protected:

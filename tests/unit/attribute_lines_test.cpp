@@ -8,31 +8,35 @@ using AttributeLines = ContextTest;
 
 TEST_F(AttributeLines, media_and_session_are_searched_alike)
 {
-    for (const auto &[name, value] :
-         {std::pair("ptime ", " 20 ms "), std::pair("sendrecv", (const char *)nullptr),
-          std::pair("send", "1"), std::pair("path", ""), std::pair("ptime", "30")}) {
-        EXPECT_EQ(set_media_description_attribute(section, name, value), 1);
+    const std::pair<const char *, const char *> attributes[] = {{"ptime ", " 20 ms"}, {"sendrecv", nullptr},
+                                                                {"send", "1"},        {"path", ""},
+                                                                {"tool", "a:b"},      {"ptime", "30"}};
+    char value[256] = "-";
+    EXPECT_EQ(call(get_session_attribute_value, context, 0, "ptime", +value), outcome{0})
+        << "no attributes at all";
+    for (const auto &[name, text] : attributes) {
+        EXPECT_EQ(set_media_description_attribute(section, name, text), 1);
         set_session_value(context, 0,
-                          "a=", value != nullptr ? (std::string(name) + ":" + value).c_str() : name);
+                          "a=", text != nullptr ? (std::string(name) + ":" + text).c_str() : name);
     }
-    EXPECT_EQ(
-        dump(section),
-        "m=audio 49170/1 RTP/AVP\n  a=ptime : 20 ms\n  a=sendrecv\n  a=send:1\n  a=path:\n  a=ptime:30\n");
+    EXPECT_EQ(dump(section),
+              "m=audio 49170/1 RTP/AVP\n  a=ptime : 20 ms\n  a=sendrecv\n  a=send:1\n  a=path:\n"
+              "  a=tool:a:b\n  a=ptime:30\n");
     const struct {
         const char *name;
         int count;
-        outcome whole;        // behind the first colon of the first match
+        std::string whole;    // behind the first colon of the first match
         std::string words[3]; // behind the colon of each match
     } rows[] = {
-        {"ptime", 2, {1, " 20 ms"}, {"20", "30", "-"}},
-        {"send", 2, {1, "-"}, {"-", "1", "-"}},
-        {"path", 1, {1, ""}, {"-", "-", "-"}},
-        {"Ptime", 0, {0, "-"}, {"-", "-", "-"}},
+        {"ptime", 2, " 20 ms", {"20", "30", "-"}}, {"send", 2, "-", {"-", "1", "-"}},
+        {"path", 1, "", {"-", "-", "-"}},          {"tool", 1, "a:b", {"a:b", "-", "-"}},
+        {"Ptime", 0, "-", {"-", "-", "-"}},
     };
     for (const auto &row : rows) {
-        char value[256] = "-";
-        const auto get = [&] { return get_media_description_attribute(section, row.name, value); };
-        EXPECT_EQ(outcome_of(get, [&] { return value; }), row.whole) << row.name;
+        char of_media[256] = "-", of_session[256] = "-";
+        EXPECT_EQ(get_media_description_attribute(section, row.name, of_media), row.count != 0) << row.name;
+        EXPECT_EQ(get_session_attribute_value(context, 0, row.name, of_session), row.count != 0) << row.name;
+        EXPECT_EQ(std::pair(std::string(of_media), std::string(of_session)), std::pair(row.whole, row.whole));
         EXPECT_EQ(dak_sdp_get_number_of_media_attribute_values(section, row.name), row.count) << row.name;
         EXPECT_EQ(dak_sdp_get_number_of_session_attribute_values(context, 0, row.name), row.count)
             << row.name;

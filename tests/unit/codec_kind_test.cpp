@@ -140,6 +140,8 @@ TEST_F(CodecKind, telephone_event_loses_its_name_when_written)
         EXPECT_EQ(call(set_telephone_event_value, section, 0, name, "16").log, "Unsupported parameter ");
     }
     EXPECT_EQ(write(), "a=fmtp:101 0-11\r\n");
+    EXPECT_EQ(written_by(dak_sdp_tel_evnt_media_info_encode, section, 1), refused)
+        << "behind the last format";
 }
 
 } // namespace

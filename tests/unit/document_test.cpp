@@ -20,8 +20,8 @@ TEST_F(Document, a_new_context_is_empty)
 TEST_F(Document, the_text_buffer_holds_3584_characters_and_no_part_of_a_piece)
 {
     const auto fill = [&](std::size_t length) {
-        return outcome_of([&] { return fill_sdp_buffer(context, xs(length).c_str()); },
-                          [&] { return std::to_string(std::string(get_sdp_text(context)).size()); });
+        return call_then([&] { return std::to_string(std::strlen(get_sdp_text(context))); }, fill_sdp_buffer,
+                         context, xs(length).c_str());
     };
     EXPECT_EQ(fill(3585), logged(0, "", "0"));
     EXPECT_EQ(fill(3583), (outcome{1, "3583"}));

@@ -45,6 +45,7 @@ TEST_F(Encoder, the_media_line_has_room_for_199_characters)
         {"audio", 0, "RTP/AVP", {96}, refused},
         {"message", 1, "TCP/MSRP", {}, {1, "m=message 49170 TCP/MSRP *\r\n"}},
         {"message", 1, "tcp/msrp", {}, {1, "m=message 49170 tcp/msrp\r\n"}},
+        {"message", 1, "TCP/TLS/MSRP", {}, {1, "m=message 49170 TCP/TLS/MSRP\r\n"}},
         {xs(181), 1, "RTP/AVP", {}, {1, "m=" + xs(181) + " 49170 RTP/AVP\r\n"}},
         {xs(182), 1, "RTP/AVP", {}, too_long},
         {xs(179), 1, "RTP/AVP", {96}, too_long},

@@ -29,9 +29,9 @@ line_reader reader_of(const std::string &line)
 {
     static const std::pair<const char *, line_reader> readers[] = {
         {"a=rtpmap", read_rtpmap},
-        {"a=rtcp:", read_rtcp},
         {"a=fmtp", parse_a_equal_fmtp_line},
         {"a=rtcp-fb", dak_sdp_parse_a_equal_rtcp_fb_line},
+        {"a=rtcp", read_rtcp},
         {"a=accept-types", dak_sdp_parse_a_equal_accept_type_line},
         {"a=accept-wrapped-types", dak_sdp_parse_a_equal_accept_wrapped_type_line},
         {"a=path", dak_sdp_parse_a_equal_path_line},

@@ -10,8 +10,7 @@ using MediaDescription = ContextTest;
 
 TEST_F(MediaDescription, is_created_whole_or_not_at_all)
 {
-    const uint32_t numbers[21] = {97, 0,  101, 3,  4,  5,  6,  7,  8,  9, 10,
-                                  11, 12, 13,  14, 15, 16, 17, 18, 19, 20};
+    const uint32_t numbers[21] = {97, 0, 101};
     const std::tuple<std::string, std::string, const uint32_t *, int, outcome> rows[] = {
         {"audio", "RTP/AVP", numbers, 3, {1, "m=audio 49170/2 RTP/AVP\n  97\n  0\n  101\n"}},
         {xs(199), xs(199), nullptr, 0, {1, "m=" + xs(199) + " 49170/2 " + xs(199) + "\n"}},
@@ -69,8 +68,8 @@ TEST_F(MediaDescription, a_name_is_bound_to_a_payload_number_of_the_section)
     set_media_value(m, 0, "octet-align", "1");
     EXPECT_EQ(set_payload_number(m, 98), 1) << "a number joins behind";
     const auto bind = [&](int number, const char *name) {
-        return outcome_of([&] { return add_media_codec_to_media_description(m, number, name, 16000, 2); },
-                          [&] { return dump(m); });
+        return call_then([&] { return dump(m); }, add_media_codec_to_media_description, m, number, name,
+                         16000, 2);
     };
     const std::string others = "m=audio 49170/1 RTP/AVP\n  97 amr/8000/1 octet-align=1\n  0\n  98";
     EXPECT_EQ(dump(m), others + "\n") << "what was there is kept";

@@ -12,11 +12,9 @@ TEST_F(MediaValue, a_parameter_is_set_by_name)
 {
     const section_ptr section = new_section("RTP/AVP 97=AMR");
     table::for_each_row("media_values.txt", [&](const table::row &row) {
-        EXPECT_EQ(
-            outcome_of(
-                [&] { return set_media_value(section, 0, row.at("name").c_str(), row.at("value").c_str()); },
-                [&] { return text_of(get_media_value(section, 0, "\tMode-Set ")); }),
-            table::expected(row));
+        EXPECT_EQ(call_then([&] { return text_of(get_media_value(section, 0, "\tMode-Set ")); },
+                            set_media_value, section, 0, row.at("name").c_str(), row.at("value").c_str()),
+                  table::expected(row));
     });
     EXPECT_EQ(get_media_value(section, 0, "crc"), nullptr) << "known, but never set";
 }

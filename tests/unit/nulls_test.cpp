@@ -161,4 +161,13 @@ TEST_F(Nulls, are_told_and_do_no_harm)
         ADD_FAILURE() << name << " has no row: " << results;
 }
 
+TEST_F(Nulls, stand_at_a_place_that_is_given)
+{
+    const char *none = nullptr;
+    rtcp_address_info address;
+    EXPECT_EQ(call(parse_session_info, context, &none, ""), refused);
+    EXPECT_EQ(call(process_media_attribute, &none, "", section), refused);
+    EXPECT_EQ(call(get_media_rtcp_ip_address, &none, "", &address), refused);
+}
+
 } // namespace

@@ -14,12 +14,8 @@ TEST_F(Number, unsigned_numbers_are_read_from_counted_text)
     table::for_each_row("numbers.txt", [&](const table::row &row) {
         const heap_text text(row.at("text"));
         uint32_t number = 77;
-        EXPECT_EQ(outcome_of(
-                      [&] {
-                          return dak_atoi(text.data(), modes.at(row.at("mode")), uint32_t(text.size()),
-                                          &number);
-                      },
-                      [&] { return std::to_string(number); }),
+        EXPECT_EQ(call_then([&] { return std::to_string(number); }, dak_atoi, text.data(),
+                            modes.at(row.at("mode")), uint32_t(text.size()), &number),
                   table::expected(row));
     });
 }
@@ -29,8 +25,8 @@ TEST_F(Number, signed_64_bit_numbers_are_read_to_their_limits)
     table::for_each_row("numbers_64.txt", [](const table::row &row) {
         const heap_text text(row.at("text"));
         int64_t number = 77;
-        EXPECT_EQ(outcome_of([&] { return dak_atoi64(text.data(), uint32_t(text.size()), &number); },
-                             [&] { return std::to_string(number); }),
+        EXPECT_EQ(call_then([&] { return std::to_string(number); }, dak_atoi64, text.data(),
+                            uint32_t(text.size()), &number),
                   table::expected(row));
     });
 }

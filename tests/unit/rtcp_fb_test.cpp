@@ -48,7 +48,8 @@ TEST_F(RtcpFb, lists_are_written)
 
 TEST_F(RtcpFb, a_list_is_filled_entry_by_entry)
 {
-    const std::string odd = " Unknown rtcp fb attribute type \n";
+    const std::string odd = " Unknown rtcp fb attribute type \n",
+                      four = "nack pli, ccm tmmbr, unsupported, unsupported";
     const struct {
         uint32_t type, subtype;
         outcome seen;
@@ -56,18 +57,13 @@ TEST_F(RtcpFb, a_list_is_filled_entry_by_entry)
         {RTCP_FB_NACK, RTCP_FB_NACK_PLI, {1, "nack pli"}},
         {RTCP_FB_CCM, RTCP_FB_CCM_TMMBR, {1, "nack pli, ccm tmmbr"}},
         {RTCP_FB_CCM, 2, {1, "nack pli, ccm tmmbr, unsupported", odd}},
-        {3, 0, {1, "nack pli, ccm tmmbr, unsupported, unsupported", odd}},
-        {RTCP_FB_NACK, 0, {1, "nack pli, ccm tmmbr, unsupported, unsupported, nack"}},
-        {RTCP_FB_NACK,
-         0,
-         {0, "nack pli, ccm tmmbr, unsupported, unsupported, nack", "RTCP fb list size overflow \n"}},
+        {3, 0, {1, four, odd}},
+        {RTCP_FB_NACK, 0, {1, four + ", nack"}},
+        {RTCP_FB_NACK, 0, {0, four + ", nack", "RTCP fb list size overflow \n"}},
     };
     for (const auto &[type, subtype, seen] : rows)
-        EXPECT_EQ(outcome_of(
-                      [&, &type = type, &subtype = subtype] {
-                          return dak_sdp_set_media_rtcp_fb_attr(section, type, subtype);
-                      },
-                      [&] { return feedback(section, -1); }),
+        EXPECT_EQ(call_then([&] { return feedback(section, -1); }, dak_sdp_set_media_rtcp_fb_attr, section,
+                            type, subtype),
                   seen);
 }
 
@@ -90,11 +86,8 @@ TEST_F(RtcpFb, a_payload_format_takes_a_whole_list)
         {97, &five, {1, "nack pli<x>, nack pli<x>, nack pli<x>, nack pli<x>, nack pli<" + xs(255) + ">"}},
     };
     for (const auto &[number, list, seen] : rows)
-        EXPECT_EQ(outcome_of(
-                      [&, &number = number, &list = list] {
-                          return dak_sdp_add_media_rtcp_fb_to_media_description(section, number, list);
-                      },
-                      [&] { return feedback(section, 1); }),
+        EXPECT_EQ(call_then([&] { return feedback(section, 1); },
+                            dak_sdp_add_media_rtcp_fb_to_media_description, section, number, list),
                   seen);
     for (media_description *to : {new_section("RTP/AVPF").release(), (media_description *)nullptr}) {
         EXPECT_EQ(call(dak_sdp_add_media_rtcp_fb_to_media_description, to, 96, &two), logged(-1, ""));
@@ -122,16 +115,8 @@ TEST_F(RtcpFb, readers_check_their_bounds)
             return std::to_string(is.fb_type) + std::to_string(is.ccm_subtype) +
                    std::to_string(is.nack_subtype);
         };
-        EXPECT_EQ(
-            outcome_of([&] { return dak_sdp_get_media_m_rtcp_fb_type(section, &kind, row.index) != nullptr; },
-                       show),
-            row.wildcard);
-        EXPECT_EQ(outcome_of(
-                      [&] {
-                          return dak_sdp_get_media_rtcp_fb_type(section, &kind, row.index, row.codec) !=
-                                 nullptr;
-                      },
-                      show),
+        EXPECT_EQ(call_then(show, dak_sdp_get_media_m_rtcp_fb_type, section, &kind, row.index), row.wildcard);
+        EXPECT_EQ(call_then(show, dak_sdp_get_media_rtcp_fb_type, section, &kind, row.index, row.codec),
                   row.per_payload)
             << row.index << " of codec " << row.codec;
     }

@@ -33,9 +33,9 @@ TEST_F(Rtpmap, the_place_moves_behind_a_whole_address)
         const heap_text text(given);
         const char *at = text.begin(), *const end = text.end();
         rtcp_address_info address;
-        EXPECT_EQ(outcome_of([&] { return get_media_rtcp_ip_address(&at, end, &address); },
-                             [&] { return std::string(at, end); }),
-                  seen);
+        EXPECT_EQ(
+            call_then([&] { return std::string(at, end); }, get_media_rtcp_ip_address, &at, end, &address),
+            seen);
     }
 }
 

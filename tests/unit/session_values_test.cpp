@@ -45,21 +45,4 @@ TEST_F(SessionValues, a_value_has_at_most_199_characters)
     EXPECT_EQ(at(0) + at(1) + at(2), xs(399)) << "a refused further line stays, cut";
 }
 
-TEST_F(SessionValues, an_attribute_is_found_by_the_beginning_of_its_name)
-{
-    const auto get = [&](const char *name) {
-        char value[256] = "-";
-        return outcome_of([&] { return get_session_attribute_value(context, 0, name, value); },
-                          [&] { return value; });
-    };
-    EXPECT_EQ(get("ptime"), (outcome{0, "-"})) << "no attributes at all";
-    for (const char *value : {"tool:a:b", "inactive", "sendrecv:1", "ptime:20"})
-        set_session_value(context, 0, "a=", value);
-    const std::pair<const char *, outcome> rows[] = {{"tool", {1, "a:b"}}, {"inactive", {1, "-"}},
-                                                     {"send", {1, "1"}},   {"ptime", {1, "20"}},
-                                                     {"Ptime", {0, "-"}},  {"maxptime", {0, "-"}}};
-    for (const auto &[name, seen] : rows)
-        EXPECT_EQ(get(name), seen) << name;
-}
-
 } // namespace
