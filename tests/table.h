@@ -52,7 +52,7 @@ inline std::vector<std::string> cells_of(const std::string &line)
 // Hands the rows of a file over, each under the file's name and its line's number.
 template <class Check> void for_each_row(const std::string &file, Check check)
 {
-    std::ifstream in(DAKSDP_TEST_DATA_DIR "/" + file);
+    std::ifstream in(DAKSDP_TESTS_DIR "/unit/data/" + file);
     std::vector<std::string> columns, above;
     std::string line;
     for (int number = 1; std::getline(in, line); ++number) {

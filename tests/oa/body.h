@@ -1,27 +1,12 @@
 #ifndef DAKSDP_TESTS_OA_BODY_H
 #define DAKSDP_TESTS_OA_BODY_H
 
-#include <ostream>
 #include <vector>
 
-#include "container_text.h"
-#include "platform_test.h"
+#include "oa/cases.h"
+#include "oa/container_text.h"
 
 namespace oa_tests {
-
-// What a call gave: its result, what it wrote or left behind, and its log lines.
-struct outcome {
-    uint32_t result = 0;
-    std::string text;
-    std::string log;
-
-    bool operator==(const outcome &) const = default;
-};
-
-inline std::ostream &operator<<(std::ostream &out, const outcome &seen)
-{
-    return out << seen.result << ' ' << seen.text << "\n  log " << testing::PrintToString(seen.log);
-}
 
 inline std::string replaced(std::string text, std::string_view from, std::string_view to)
 {
@@ -30,117 +15,106 @@ inline std::string replaced(std::string text, std::string_view from, std::string
     return text;
 }
 
-// The log lines behind the first ones, joined by "|". "dak_app_oa_" is shown as "~", a line feed as "$" and
-// a run of three blanks or more as its length, so that a row of a table fits a line.
-inline std::string log_behind(std::size_t first)
+// The outcome of a call; `show` tells what it left behind.
+template <class Call, class Show> outcome seen(Call call, Show show)
 {
-    std::string out;
-    for (std::size_t i = first; i < standin::logs().size(); ++i) {
-        const standin::log_line &line = standin::logs()[i];
-        EXPECT_TRUE(line.priority == 6 && !line.tagged) << line;
-        out += (i == first ? "" : "|") + replaced(line.text, "dak_app_oa_", "~");
-    }
-    std::replace(out.begin(), out.end(), '\n', '$');
-    for (std::size_t at = out.find("   "); at != std::string::npos; at = out.find("   ")) {
-        const std::size_t length = std::min(out.find_first_not_of(' ', at), out.size()) - at;
-        out.replace(at, length, "{" + std::to_string(length) + "}");
-    }
-    return out;
+    return outcome_of([&] { return static_cast<int>(call()); }, show);
+}
+template <class Call> outcome seen(Call call)
+{
+    return seen(call, [] { return std::string(); });
 }
 
-// The formats of all log lines that show a value, each once and with "$" for a line feed.
-inline std::string formats_with_values()
+// Parses text that ends with its block into a container full of old bytes.
+inline uint32_t parse_into(sdp_container &container, std::string_view text)
 {
-    std::string out = "|";
-    for (const standin::log_line &line : standin::logs())
-        if (line.format.find('%') != std::string::npos &&
-            out.find("|" + line.format + "|") == std::string::npos)
-            out += line.format + "|";
-    out = replaced(out, "\n", "$");
-    return out;
+    const heap_text block(text);
+    const sdp_payload_buffer buffer = {block.data(), static_cast<uint16_t>(block.size())};
+    std::memset(&container, 0xEE, sizeof container);
+    const uint32_t result = dak_app_oa_parse_sdp(&container, &buffer);
+    EXPECT_EQ(block.view(), text);
+    return result;
 }
 
-template <class Call> outcome outcome_of(Call call)
-{
-    const std::size_t first = standin::logs().size();
-    outcome seen{static_cast<uint32_t>(call())};
-    seen.log = log_behind(first);
-    return seen;
-}
-
-// A function of two pointers takes null for neither: 3, with this log line.
-template <class Function, class First, class Second>
-void expect_no_null(Function function, First *first, Second *second, const char *log)
-{
-    EXPECT_EQ(outcome_of([&] { return function(first, nullptr); }), (outcome{3, "", log}));
-    EXPECT_EQ(outcome_of([&] { return function(nullptr, second); }), (outcome{3, "", log}));
-}
-
-// A container with media lines of its own: the lines v=0, "o=- 1 2 IN IP4 h" and s=-, and what is changed.
-struct body {
-    explicit body(const std::string &changes = "", std::size_t count = 0) : lines(count)
+// A container whose media lines lie in a block of exactly their size: what a text holds, if there is one, and
+// what is changed of it. A change "lines=3" gives it that many media lines, those that are added like the
+// first.
+class body {
+public:
+    explicit body(const std::string &changes = "", const std::string &text = "")
     {
-        if (count != 0)
-            session.mlines = lines.data();
-        session.num_mlines = static_cast<uint16_t>(count);
-        change(session, "user=- id=1 ver=2 oa.at=h");
-        change(session, changes);
+        if (!text.empty()) {
+            EXPECT_EQ(parse_into(session, text), 0U) << text;
+            lines.assign(session.mlines, session.mlines + session.num_mlines);
+            dak_app_oa_cleanup_sdp_container(&session);
+            resize(lines.size());
+        }
+        change(changes);
     }
+    explicit body(const test_case &given) : body(given["change"], given.lines("sdp")) {}
     body(const body &) = delete;
 
-    std::vector<sdp_media_line> lines;
+    void change(const std::string &changes)
+    {
+        for_each_change(changes, [&](const setter &set) {
+            if (set.path == "lines")
+                resize(std::stoul(set.value)), ++set.found;
+            else
+                each(session, set);
+        });
+    }
+    // The container and its media lines, byte for byte.
+    std::string bytes() const
+    {
+        return std::string(reinterpret_cast<const char *>(&session), sizeof session)
+            .append(reinterpret_cast<const char *>(lines.data()), lines.size() * sizeof(sdp_media_line));
+    }
+
     sdp_container session = {};
+    std::vector<sdp_media_line> lines;
+
+private:
+    void resize(std::size_t count)
+    {
+        lines.resize(count, lines.empty() ? sdp_media_line() : lines[0]);
+        lines.shrink_to_fit();
+        session.mlines = lines.data();
+        session.num_mlines = static_cast<uint16_t>(count);
+    }
 };
 
-// The container and its media lines, byte for byte.
-inline std::string bytes_of(const sdp_container &container)
-{
-    std::string bytes(reinterpret_cast<const char *>(&container), sizeof container);
-    if (container.mlines != nullptr)
-        bytes.append(reinterpret_cast<const char *>(container.mlines),
-                     container.num_mlines * sizeof(sdp_media_line));
-    return bytes;
-}
-
 // Generates into a block of exactly this capacity. The buffer is written on success alone, and only as far
-// as the terminator; the container is only read. On success the log is without the line about the lengths.
+// as the terminator. On success the log is without the line about the lengths.
 inline outcome generate(sdp_container &container, uint16_t capacity = 4096)
 {
     const heap_text block(std::string(capacity, '#'));
     sdp_payload_buffer buffer = {block.data(), capacity};
-    const std::string before = bytes_of(container);
-    outcome seen = outcome_of([&] { return dak_app_oa_generate_sdp(&container, &buffer); });
-    EXPECT_TRUE(bytes_of(container) == before);
-    const std::string_view text = block.view().substr(0, seen.result == 0 ? std::strlen(block.data()) : 0);
-    EXPECT_EQ(block.view().substr(text.size() + (seen.result == 0)).find_first_not_of('#'),
-              std::string::npos);
-    seen.text = replaced(std::string(text), "\r\n", "\n");
+    outcome written = seen([&] { return dak_app_oa_generate_sdp(&container, &buffer); });
+    const bool is_written = written.result == 0;
+    const std::string_view text = block.view().substr(0, is_written ? std::strlen(block.data()) : 0);
+    EXPECT_EQ(block.view().substr(text.size() + is_written).find_first_not_of('#'), std::string::npos);
     EXPECT_EQ(std::count(text.begin(), text.end(), '\r'), std::count(text.begin(), text.end(), '\n'));
-    const std::string lengths = "~generate_sdp: SDP out length: " + std::to_string(text.size()) +
-                                ", In length: " + std::to_string(capacity) + "$";
-    if (seen.result == 0) {
-        EXPECT_TRUE(seen.log.ends_with(lengths)) << seen.log;
-        seen.log.resize(seen.log.size() - lengths.size() - (seen.log.size() > lengths.size()));
+    written.text = replaced(std::string(text), "\r\n", "\n");
+    const std::string lengths = "dak_app_oa_generate_sdp: SDP out length: " + std::to_string(text.size()) +
+                                ", In length: " + std::to_string(capacity) + "\n";
+    if (is_written) {
+        EXPECT_TRUE(written.log.ends_with(lengths)) << written.log;
+        written.log.resize(written.log.size() - lengths.size() - (written.log.size() > lengths.size()));
     }
-    return seen;
+    return written;
 }
 
-// Parses text that ends with its block into a container full of old bytes, and shows what it then holds. The
-// lower layer's line about media lines without preconditions is left out.
+// What parsing makes of a text. The lower layer's line about media lines without preconditions is left out.
 inline outcome parse(std::string_view text)
 {
-    const heap_text block(text);
-    const sdp_payload_buffer buffer = {block.data(), static_cast<uint16_t>(block.size())};
     sdp_container container;
-    std::memset(&container, 0xEE, sizeof container);
-    outcome seen = outcome_of([&] { return dak_app_oa_parse_sdp(&container, &buffer); });
-    EXPECT_EQ(block.view(), text);
-    seen.text = dump(container);
-    seen.log = replaced("|" + seen.log, "|get_number_of_precond_attrs :{26}no pcd attributes found $", "");
-    seen.log.erase(0, 1);
+    outcome parsed = seen([&] { return parse_into(container, text); }, [&] { return dump(container); });
+    const std::string none =
+        "|get_number_of_precond_attrs :                          no pcd attributes found \n";
+    parsed.log = replaced("|" + parsed.log, none, "").erase(0, 1);
     EXPECT_EQ(dak_app_oa_cleanup_sdp_container(&container), 0U);
     EXPECT_TRUE(container.num_mlines == 0 && container.mlines == nullptr);
-    return seen;
+    return parsed;
 }
 
 } // namespace oa_tests

@@ -17,7 +17,7 @@ TEST_F(Encoder, a_piece_is_written_whole_or_not_at_all)
         for (std::string piece; std::getline(line, piece, '^'); whole += piece)
             pieces.emplace_back(piece, row.at("log"));
     });
-    const std::string body = read_file(DAKSDP_TEST_DATA_DIR "/pieces.sdp");
+    const std::string body = read_file(DAKSDP_TESTS_DIR "/unit/data/pieces.sdp");
     for (std::size_t room = 0; room <= whole.size(); ++room) {
         outcome expected{room == whole.size(), "", "", room != whole.size()};
         auto piece = pieces.begin();
