@@ -1,155 +1,127 @@
-#include "validation_test.h"
-
-#include <map>
-
 #include "oa/precondition_table.h"
-#include "oa/validate_preconditions.h"
+#include "validation.h"
 
-using namespace validation;
+using namespace oa_tests;
 
 namespace {
 
-using PreconditionValidation = PlatformTest;
-using entries = std::vector<sdp_precondition>;
-using lists = std::vector<std::string>;
+class Preconditions : public PlatformTest {};
 
-// Types are e2e, local and remote; directions recv, send, both, and 5 for none.
-enum : uint32_t { recv = 1, send, both };
+const std::string file = "validation/data/preconditions.txt";
 
-const char attribute_error[] = "dak_app_oa_check_mline_preconds:PCD attr err\n";
-
-TEST_F(PreconditionValidation, Offer)
+// The entries of a text such as "c15 d413/2", in a block that ends with them.
+std::vector<sdp_precondition> entries(const std::string &text)
 {
-    const std::string ten = "c15 d413 f79 f00 f00 f00 f00 f00 f00 f00";
-    const struct {
-        uint32_t direction, code;
-        const char *reasons;
-        lists offers;
-    } rows[] = {
-        {both, 0, "", {"c15 d413", "d411 d312 c15", "c25 c35 d423 d133", "c11/2 d411/3", "c19 d919"}},
-        {both, 0, "", {"", "f00", "c21/0 f11", ten}},
-        {both, 14, "", {"c15 d411 d312 d315", "c11 c12 d413", "d413", "c13", "c25 c35 d423 d321 d322 d133"}},
-        {both, 14, "", {"c25 d423", "c35 d433", "c25 c35 d423 d133 c15"}},
-        {both, 14, attribute_error, {"?11", "c11 x11", "d401", "c01/0", "d441", "c71", ten + " f00"}},
-        {send, 14, "", {"c25 c35 d421 d133", "d421/0", "d421 c01"}},
-        {send, 0, "", {"c25 c35 d422 d133", "c25 c35 d423 d133", "c25 c35 d321 d133"}},
-        {recv, 14, "", {"c25 c35 d422 d133"}},
-        {recv, 0, "", {"c25 c35 d421 d133"}},
-    };
-    session s = grouped();
-    for (const auto &row : rows) {
-        for (const std::string &offer : row.offers) {
-            const entries given = preconditions(offer);
-            s[0].precond_present = 2, s[0].num_preconds = static_cast<uint32_t>(given.size());
-            std::copy_n(given.begin(), std::min(s[0].num_preconds, 10U), s[0].preconds);
-            expect_verdict(offer, call(dak_app_oa_validate_preconditions, &s[0], row.direction), row.code,
-                           row.reasons);
-        }
+    std::vector<sdp_precondition> list;
+    for (const std::string &word : words(text)) {
+        const auto digit = [&](std::size_t at) { return static_cast<uint32_t>(word[at] - '0'); };
+        sdp_precondition entry = {.kind = static_cast<uint32_t>(std::string("?cdfx").find(word[0]))};
+        entry.precond_type = word.find('/') == word.npos ? 1 : digit(word.find('/') + 1);
+        if (word[0] == 'd')
+            entry.desired = {digit(1), digit(2), digit(3)};
+        else
+            entry.status = {digit(1), digit(2)};
+        list.push_back(entry);
     }
-    s[0].precond_present = 0;
-    expect_verdict("absent", call(dak_app_oa_validate_preconditions, &s[0], both), 0);
-    expect_verdict("null", call(dak_app_oa_validate_preconditions, nullptr, both), 15,
-                   "dak_app_oa_validate_preconditions: Null params\n");
+    list.shrink_to_fit();
+    list.reserve(1); // empty, but not null
+    return list;
 }
 
-TEST_F(PreconditionValidation, Tabulation)
+// Gives a media line entries, as many of them as it holds.
+void give(body &line, const std::vector<sdp_precondition> &list)
 {
-    const std::string eleven = "c11 c11 c11 c11 c11 c11 c11 c11 c11 c11 c11";
-    std::map<std::string, std::string> rows = {
-        // what gives type, direction and strength, or 'c'; after a '!' up to an error
-        {"c11 c22 c35", "11c 22c 35c "},
-        {"c23 d433", "21c 22c 314 324 "},
-        {"d423 d021", "224 "},
-        {"f00 c79/0 c14 c74", ""},
-        {"c11/9", "11c "},
-        {"c11 x12", "!11c "}};
-    for (const std::string &bad : lists{"c01/0", "d410/0", "c41", "d471", "c16", "d439", eleven})
-        rows[bad] = "!";
-    struct {
+    line.change("lines=1 m0.pcds[2]=" + std::to_string(list.size()));
+    std::copy_n(list.begin(), std::min<std::size_t>(list.size(), SDP_MAX_PRECONDS), line.lines[0].preconds);
+}
+
+TEST_F(Preconditions, are_tabulated_and_met)
+{
+    for_each_case(file, "tabulated", [](const test_case &each) {
+        const std::vector<sdp_precondition> list = entries(each["entries"]);
         uint8_t current[4][6];
         uint32_t desired[4][6];
-    } got;
-    for (const auto &[list, expected] : rows) {
-        memset(&got, 0xA5, sizeof got); // tabulation clears it
-        entries given = preconditions(list);
-        const auto count = static_cast<uint32_t>(given.size());
-        given.resize(std::min(count, 10U)), given.shrink_to_fit(); // no 11th to be read
-        const verdict result = call(dak_app_oa_fill_pcd_list, count, given.data(), got.current, got.desired);
-        std::string table = result.code != 0 ? "!" : "";
-        expect_verdict(list, result, table.empty() ? 0 : 14, table.empty() ? "" : attribute_error);
-        for (uint32_t at = 0; at < 24; ++at) {
-            const std::string place = std::to_string(at / 6) + std::to_string(at % 6);
-            const uint32_t strength = got.desired[at / 6][at % 6];
-            table += got.current[at / 6][at % 6] ? place + "c " : "";
-            table += strength ? place + std::to_string(strength) + " " : "";
-        }
-        EXPECT_EQ(table, expected) << list;
-    }
-    const entries one = preconditions("c11");
-    EXPECT_EQ(dak_app_oa_fill_pcd_list(0, nullptr, got.current, got.desired), 15U);
-    EXPECT_EQ(dak_app_oa_fill_pcd_list(1, one.data(), nullptr, got.desired), 15U);
-    EXPECT_EQ(dak_app_oa_fill_pcd_list(1, one.data(), got.current, nullptr), 15U);
+        std::memset(current, 0xA5, sizeof current); // tabulation clears it
+        std::memset(desired, 0xA5, sizeof desired);
+        const auto tabulate = [&] {
+            return dak_app_oa_fill_pcd_list(static_cast<uint32_t>(list.size()), list.data(), current,
+                                            desired);
+        };
+        const auto cells = [&] {
+            std::string all;
+            for (int i = 0; i < 24; ++i) {
+                const std::string cell = " " + std::to_string(i / 6) + std::to_string(i % 6);
+                const uint32_t strength = desired[i / 6][i % 6];
+                all += current[i / 6][i % 6] == 1 ? cell : "";
+                all += strength != 0 ? cell + "=" + std::to_string(strength) : "";
+            }
+            return all.substr(!all.empty());
+        };
+        outcome tabulated = seen(tabulate, cells);
+        each.expect(tabulated, each["cells"]);
+        body line;
+        give(line, list);
+        tabulated.result = each["met"] == "yes", tabulated.text = "";
+        EXPECT_EQ(judged({&line}, [&] { return dak_app_oa_check_mline_preconds(&line.lines[0]); }),
+                  tabulated);
+        line.lines[0].precond_present = 0;
+        EXPECT_EQ(judged({&line}, [&] { return dak_app_oa_check_mline_preconds(&line.lines[0]); }),
+                  outcome());
+    });
 }
 
-uint32_t answered(const std::string &answer, const std::string &offer, uint32_t direction = both)
+TEST_F(Preconditions, of_all_lines_are_to_be_met)
 {
-    entries a = preconditions(answer), o = preconditions(offer);
-    a.reserve(1), o.reserve(1); // empty, but not null
-    return call(dak_app_oa_validate_ans_pcd, static_cast<uint32_t>(a.size()), a.data(),
-                static_cast<uint32_t>(o.size()), o.data(), direction)
-        .code;
+    for_each_case(file, "all", [](const test_case &each) {
+        const body given(each);
+        each.expect(judged({&given}, [&] { return dak_app_oa_check_preconds(&given.session); }));
+    });
 }
 
-TEST_F(PreconditionValidation, StrengthsAreKept)
+TEST_F(Preconditions, of_an_offer)
 {
-    const std::pair<std::string, std::string> mirrors[] = {{"21", "32"}, {"22", "31"}, {"25", "31"},
-                                                           {"31", "22"}, {"32", "21"}, {"35", "21"}};
-    for (const auto &[here, there] : mirrors) {
+    for_each_case(file, "offered", [](const test_case &each) {
+        body line;
+        give(line, entries(each["entries"]));
+        const auto validate = [&] {
+            return dak_app_oa_validate_preconditions(&line.lines[0], each.number("direction"));
+        };
+        each.expect(judged({&line}, validate));
+        line.lines[0].precond_present = 0;
+        EXPECT_EQ(validate(), 0U);
+    });
+}
+
+uint32_t answered(const std::string &answer, const std::string &offer, uint32_t direction = 3)
+{
+    const auto a = entries(answer), o = entries(offer);
+    return dak_app_oa_validate_ans_pcd(static_cast<uint32_t>(a.size()), a.data(),
+                                       static_cast<uint32_t>(o.size()), o.data(), direction);
+}
+
+TEST_F(Preconditions, of_an_answer)
+{
+    for_each_case(file, "answered", [](const test_case &each) {
+        each.expect(
+            judged({}, [&] { return answered(each["answer"], each["offer"], each.number("direction")); }));
+    });
+}
+
+// An answer keeps every strength, or has a greater one, in the mirrored cell and no other.
+TEST_F(Preconditions, strengths_are_kept)
+{
+    for_each_case(file, "mirrored", [](const test_case &each) {
+        const std::string here = each["offer"], there = each["answer"];
         const std::string across = {there[0], there[1] == '1' ? '2' : '1'};
-        for (int offered = 0; offered < 5; ++offered) {
-            SCOPED_TRACE(here + " " + std::to_string(offered));
-            const std::string offer = "d" + std::to_string(offered) + here;
-            for (int answer = 0; answer < 6; ++answer)
-                EXPECT_EQ(answered("d" + std::to_string(answer) + there, offer),
-                          answer >= offered ? 0U : 14U);
+        for (char offered = '0'; offered < '5'; ++offered) {
+            const std::string offer = std::string("d") + offered + here;
+            for (char answer = '0'; answer < '6'; ++answer)
+                EXPECT_EQ(answered(std::string("d") + answer + there, offer), answer >= offered ? 0U : 14U);
             const std::string elsewhere =
                 std::string("d4") + here[0] + "3 d413 d4" + there[0] + "5 d4" + across;
-            EXPECT_EQ(answered(elsewhere, offer), offered == 0 ? 0U : 14U);
+            EXPECT_EQ(answered(elsewhere, offer), offered == '0' ? 0U : 14U) << offer;
         }
-    }
-}
-
-TEST_F(PreconditionValidation, Answer)
-{
-    const std::string kept = "c25 c35 d423 d433";
-    const struct {
-        uint32_t direction, code;
-        const char *offer;
-        lists answers;
-    } rows[] = {
-        {both, 0, "c25 c35 d423 d133", {kept}},
-        {both, 14, "c25 c35 d423 d133", {"c25 c35 d423 d333", "c25 c33 d423 d433"}},
-        {4, 0, "", {kept, "d431", "d432"}},
-        {send, 14, "", {"d432"}},
-        {send, 0, "", {"d431", "d532"}},
-        {recv, 14, "", {"d431"}},
-        {recv, 0, "", {"d432", "d531"}},
-        {both, 14, "d413", {"d413"}},
-        {both, 0, "d013 c13 c33", {""}}, // e2e and remote are not looked at
-        {both, 14, "c21", {"c31"}},
-        {both, 0, "c21 c25", {"c32 c35"}},
-        {both, 0, "c22", {"c31"}},
-        {both, 14, "c23", {"c32", "c31"}},
-        {both, 0, "c23", {"c33"}},
-        {both, 15, "", {"c71"}},
-        {both, 15, "c19", {""}},
-    };
-    for (const auto &row : rows)
-        for (const std::string &answer : row.answers)
-            EXPECT_EQ(answered(answer, row.offer, row.direction), row.code) << answer << " for " << row.offer;
-    const entries one = preconditions("c11");
-    EXPECT_EQ(dak_app_oa_validate_ans_pcd(0, nullptr, 1, one.data(), both), 15U);
-    EXPECT_EQ(dak_app_oa_validate_ans_pcd(1, one.data(), 0, nullptr, both), 15U);
+    });
 }
 
 } // namespace
