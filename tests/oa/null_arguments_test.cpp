@@ -48,7 +48,7 @@ TEST_F(NullArguments, are_refused)
     sdp_codec_params *block = &line->formats[0].params;
     const context_ptr owner(init_sdp_lib());
     sdp_lib_context *context = owner.get();
-    const section_ptr section = new_section("RTP/AVP", {{97, "AMR"}});
+    const section_ptr section = new_section("RTP/AVP 97=AMR");
     char text[300] = "";
     sdp_payload_buffer buffer = {text, sizeof text};
     uint8_t byte = 0, current[4][6];

@@ -51,7 +51,7 @@ private:
 // A media section with one payload format, 97, and what an fmtp line says of it.
 section_ptr section_of(const std::string &codec, const std::string &fmtp = "")
 {
-    section_ptr section = new_section("RTP/AVP", {{97, codec.c_str()}});
+    section_ptr section = new_section("RTP/AVP 97=" + codec);
     const int is_read = fmtp.empty() ? 1
                         : fmtp.ends_with('=')
                             ? set_media_value(section, 0, fmtp.substr(0, fmtp.size() - 1).c_str(), "")
