@@ -1,27 +1,15 @@
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <regex>
 
+#include "reading.h"
 #include "support.h"
 
 namespace {
 
 class Example : public PlatformTest {
 protected:
-    static std::string read(const std::string &name)
-    {
-        std::ifstream in(DAKSDP_EXAMPLES_DIR "/" + name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
-    }
-    static std::vector<std::string> all()
-    {
-        std::vector<std::string> names;
-        for (const auto &file : std::filesystem::directory_iterator(DAKSDP_EXAMPLES_DIR))
-            if (file.path().extension() == ".sdp")
-                names.push_back(file.path().filename());
-        return names;
-    }
+    std::string read(const char *name) const { return bodies.at(name); }
+
+    const std::map<std::string, std::string> bodies = examples();
 };
 
 TEST_F(Example, a_document_is_held_whole)
@@ -78,39 +66,6 @@ a=file-range:1-4092
         const std::string text = std::regex_replace(get_sdp_text(context.get()), std::regex("\r"), "");
         std::string expected = std::regex_replace(body, std::regex("\r|a=rtpmap.*\r\n"), "");
         EXPECT_EQ(text, expected.insert(expected.find("a="), records));
-    }
-}
-
-// What was received may be cut anywhere, and has no terminator then.
-TEST_F(Example, a_document_may_end_anywhere)
-{
-    for (const std::string &name : all()) {
-        const std::string body = read(name);
-        EXPECT_EQ(parse(body).result, 1) << name;
-        for (std::size_t length = 0; length < body.size(); ++length) {
-            const outcome seen = parse(body.substr(0, length));
-            ASSERT_TRUE(seen.result == 1 || (seen.result == 0 && seen.reported))
-                << name << " cut at " << length;
-        }
-    }
-}
-
-TEST_F(Example, memory_may_run_out_at_any_allocation)
-{
-    for (const std::string &name : all()) {
-        SCOPED_TRACE(name);
-        const std::string body = read(name);
-        const std::string whole = parse(body).text;
-        sweep_allocations([&] {
-            const context_ptr fresh(init_sdp_lib());
-            if (fresh == nullptr)
-                return;
-            const outcome seen = call(sdp_parse, fresh.get(), body.data(), uint32_t(body.size()));
-            const bool failed = standin::failed_allocations() > 0;
-            EXPECT_EQ(seen.result == 1 && dump(fresh.get(), 1) == whole, !failed)
-                << "a loss that shows nowhere";
-            EXPECT_TRUE(seen.reported || !failed);
-        });
     }
 }
 
