@@ -3,10 +3,11 @@
 
 namespace {
 
-// What generation writes in a form that parsing does not read.
-constexpr const char *one_way[] = {
+// What generation writes in a form that parsing does not read, or reads as something else.
+constexpr auto one_way = table_of(
     "a=acceptwrapped-types:", " cmm", "a=file-disposition:\r", "a=file-selector:\r", "a=file-selector\r",
-};
+    "=\r", "=;", "= ", " \r",
+    "sar-understood=", "sar-supported=", "in-band-parameter-sets=", "parameter-add=", "use-level-src");
 
 // A payload number that stands twice is written once, and an unknown codec without its name.
 bool keeps_format(const sdp_media_line &mline, int index)
@@ -91,7 +92,7 @@ void round_trip(std::string_view body)
     std::string text;
     printed(container);
     const bool is_written = generate(container, 4096, text) == SDP_OA_SUCCESS;
-    FUZZ_EXPECT(bytes_of(container) == before || is_written);
+    FUZZ_EXPECT(bytes_of(container) == before);
     if (!is_written)
         return;
     expect_exact_capacity(container, text);
