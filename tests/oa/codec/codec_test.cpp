@@ -121,6 +121,16 @@ TEST_F(Codec, blocks_that_no_text_gives)
     });
 }
 
+// Each value that is refused is reported.
+TEST_F(Codec, nothing_is_written_behind_a_refusal)
+{
+    const section_ptr out = section_of("AMR");
+    EXPECT_EQ(block("EVRC0", "fmtp=1 silencesupp=1").encode(out, 1), 7U);
+    const std::size_t reports_of_one = standin::assert_count();
+    EXPECT_EQ(block("EVRC0", "fmtp=1 silencesupp=1 dtxmax=1 dtxmin=1 hangover=1").encode(out, 1), 7U);
+    EXPECT_EQ(standin::assert_count(), 2 * reports_of_one);
+}
+
 template <class Map, class Read> auto mode_reader(Read read)
 {
     return [read](const char *text) {
