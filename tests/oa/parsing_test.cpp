@@ -15,7 +15,9 @@ TEST_F(Parsing, bodies)
 TEST_F(Parsing, preconditions)
 {
     for_each_case("oa/data/parsing.txt", "precondition", [](const test_case &each) {
-        sdp_precondition entry = {.kind = each.number("kind")};
+        sdp_precondition entry;
+        std::memset(&entry, 0, sizeof entry);
+        entry.kind = each.number("kind");
         const heap_c_text value(each["value"]);
         each.expect(seen([&] { return dak_app_oa_parse_pre_cond_str(value.c_str(), &entry); },
                          [&] { return dump(entry); }),
