@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <regex>
 #include <sstream>
 
 namespace oa_tests {
@@ -17,18 +16,29 @@ std::string trimmed(const std::string &text)
     return first == text.npos ? "" : text.substr(first, text.find_last_not_of(blanks) + 1 - first);
 }
 
+// A text with 62 times x for "(x*62)".
+std::string repeated(std::string text)
+{
+    for (std::size_t open = text.find('('); open != text.npos; open = text.find('(', open + 1)) {
+        const std::size_t close = std::min(text.find(')', open), text.size());
+        const std::size_t star = std::min(text.find_last_of('*', close), close);
+        const std::string count = star < open ? "" : text.substr(star, close - star).erase(0, 1);
+        if (count.empty() || count.find_first_not_of("0123456789") != count.npos)
+            continue;
+        std::string all;
+        for (int i = std::stoi(count); i > 0; --i)
+            all += text.substr(open + 1, star - open - 1);
+        text.replace(open, close + 1 - open, all);
+    }
+    return text;
+}
+
 // What a value of a file stands for.
 std::string meant(std::string text)
 {
-    static const std::regex repetition(R"(\(([^()]*)\*(\d+)\))");
     if (text.size() > 1 && text.starts_with('"') && text.ends_with('"'))
         text = text.substr(1, text.size() - 2);
-    for (std::smatch found; std::regex_search(text, found, repetition);) {
-        std::string repeated;
-        for (int count = std::stoi(found[2]); count > 0; --count)
-            repeated += found[1];
-        text = found.prefix().str() + repeated + found.suffix().str();
-    }
+    text = repeated(text);
     const std::pair<std::string, char> escapes[] = {
         {"\\n", '\n'}, {"\\t", '\t'}, {"\\0", '\0'}, {"\\xE9", '\xE9'}};
     for (const auto &[name, character] : escapes)

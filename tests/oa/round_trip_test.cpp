@@ -2,7 +2,6 @@
 #include <fstream>
 #include <iterator>
 #include <random>
-#include <regex>
 
 #include "oa/body.h"
 
@@ -125,9 +124,7 @@ TEST_F(RoundTrip, memory_may_run_out_at_any_allocation)
     };
     for_each_case(file, "memory", [&](const test_case &each) {
         const failures all = each.label == "generating" ? failing(generated) : failing(parsed);
-        EXPECT_TRUE(std::regex_match(all.once, std::regex(each["once"]))) << all.once;
-        EXPECT_TRUE(std::regex_match(all.on, std::regex(each["on"]))) << all.on;
-        each.expect({0, "", all.log});
+        each.expect({0, all.once + " " + all.on, all.log}, each["once"] + " " + each["on"]);
     });
 }
 
