@@ -28,7 +28,7 @@ protected:
     template <class T> T value(int &texts, int &rooms)
     {
         static const char line[] = "a=ptime:20";
-        static const char *places[] = {line, line};
+        static const char *places[4];
         alignas(16) static char room[4][8192];
         if constexpr (std::is_convertible_v<sdp_lib_context *, T>)
             return context;
@@ -39,7 +39,7 @@ protected:
         else if constexpr (std::is_same_v<T, const char *>)
             return texts++ == 0 ? line : line + std::strlen(line);
         else if constexpr (std::is_same_v<T, const char **>)
-            return &places[rooms++];
+            return &(places[rooms++] = line);
         else if constexpr (std::is_pointer_v<T>)
             return reinterpret_cast<T>(std::memset(room[rooms++], 0, sizeof *room));
         else if constexpr (std::is_arithmetic_v<T>)
