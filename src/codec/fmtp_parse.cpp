@@ -14,8 +14,8 @@ constexpr size_t max_size = 200; // of a name or a value, with its terminator
 
 // What a line is about: the record of its payload format, and the text behind the format's number.
 struct fmtp_line {
-    media_codec *codec = nullptr;
-    const codec_kind *kind = nullptr;
+    media_codec *codec;
+    const codec_kind *kind;
     text_range parameters;
 };
 
@@ -84,7 +84,7 @@ int parse_a_equal_fmtp_line(media_description *description, const char *line_sta
 {
     if (description == nullptr || line_start == nullptr || line_end == nullptr)
         return 0;
-    fmtp_line line;
+    fmtp_line line = {nullptr, nullptr, {line_start, line_start}};
     if (!read_head(*description, {line_start, line_end}, line))
         return 0;
     const bool at_blanks = splits_at_blanks(*line.codec, *line.kind);

@@ -109,7 +109,7 @@ int parse_sdp_attribute(media_description *description, const char *line_start, 
         return fail();
     const text_range line(line_start, line_end);
     const type_and_value attribute =
-        line.length() < 2 ? type_and_value() : split_type_and_value(line.first + 2, line.last, ":", "\r");
+        line.length() < 2 ? type_and_value(line.first) : split_type_and_value(line.first + 2, line.last, ":", "\r");
     if (attribute.parts == 0) {
         DAK_LOG("parse sdp a=, no values parsed ");
         return 0;

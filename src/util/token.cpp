@@ -39,8 +39,8 @@ int get_token(const char *base, int offset, const char *end, const char **token_
 type_and_value dak::split_type_and_value(const char *position, const char *end, const char *first_delimiter,
                                          const char *second_delimiter)
 {
-    type_and_value found;
-    text_range token;
+    type_and_value found(position);
+    text_range token(position, position);
     if (position == nullptr || end == nullptr || !take_token(position, end, first_delimiter, token))
         return found;
     const bool has_nul = memchr(token.first, '\0', static_cast<size_t>(end - token.first)) != nullptr;

@@ -10,12 +10,16 @@ namespace dak {
 // Characters of a type or a value with its terminator.
 inline constexpr size_t part_size = 200;
 
+// It begins empty at a place of the text: for records that begin as a constant with pointers, some compilers
+// keep a template that can be written to.
 struct type_and_value {
+    explicit type_and_value(const char *place) : type(place, place), value(place, place), next(place) {}
+
     int parts = 0; // 2 for a type and a value, 1 for a bare type, 0 for a failure
     bool has_type = false;
     text_range type;
     text_range value;
-    const char *next = nullptr; // where the last part ended
+    const char *next; // where the last part ended
 };
 
 // What get_type_and_value() gives, as ranges of the line; both are trimmed and end in front of a NUL.
