@@ -46,7 +46,7 @@ int read_message_line(media_description *description, const char *line_start, co
         return 0;
     if (!is_message_session(*description))
         return skip_for_profile(*description);
-    text_range value;
+    text_range value(line_start, line_start);
     if (!read_attribute_value(line_start, line_end, value))
         return 0;
     store(*description, value);

@@ -105,7 +105,7 @@ int set_media_value(media_description *description, int index, const char *name,
 {
     if (value == nullptr)
         return fail();
-    text_range wanted;
+    text_range wanted(name, name);
     media_codec *codec = prepare(description, index, name, wanted);
     const codec_kind *kind = codec != nullptr ? find_kind(*codec) : nullptr;
     return kind != nullptr ? set_parameter(*codec, *kind, wanted, value) : 0;
@@ -113,7 +113,7 @@ int set_media_value(media_description *description, int index, const char *name,
 
 const char *get_media_value(media_description *description, int index, const char *name)
 {
-    text_range wanted;
+    text_range wanted(name, name);
     media_codec *codec = prepare(description, index, name, wanted);
     const codec_kind *kind = codec != nullptr ? find_kind(*codec) : nullptr;
     return kind != nullptr ? get_parameter(*codec, *kind, set_slots(*codec, *kind), wanted) : nullptr;

@@ -20,7 +20,7 @@ namespace {
 // Takes the next word of the line; empty at its end.
 text_range take_word(const char *&position, const char *end)
 {
-    text_range token;
+    text_range token(position, position);
     if (!take_token(position, end, nullptr, token))
         return {};
     position = token.last;
