@@ -108,8 +108,9 @@ int parse_sdp_attribute(media_description *description, const char *line_start, 
     if (description == nullptr || line_start == nullptr || line_end == nullptr)
         return fail();
     const text_range line(line_start, line_end);
-    const type_and_value attribute =
-        line.length() < 2 ? type_and_value(line.first) : split_type_and_value(line.first + 2, line.last, ":", "\r");
+    const type_and_value attribute = line.length() < 2
+                                         ? type_and_value(line.first)
+                                         : split_type_and_value(line.first + 2, line.last, ":", "\r");
     if (attribute.parts == 0) {
         DAK_LOG("parse sdp a=, no values parsed ");
         return 0;
