@@ -81,11 +81,12 @@ void read_record(Record *out, const media_description *description, Record media
         dak_assert_failed();
         return;
     }
-    *out = {};
-    if (description == nullptr)
-        report_missing_description();
-    else
+    if (description != nullptr) {
         *out = description->*field;
+        return;
+    }
+    *out = {};
+    report_missing_description();
 }
 
 } // namespace dak

@@ -110,11 +110,14 @@
 
 namespace dak {
 
-// A text of the library itself with its length.
+// Its length can stand for a name in a word of bits.
+inline constexpr size_t longest_name = 31;
+
+// The name of a slot with its length.
 struct literal {
     template <size_t Size> constexpr literal(const char (&chars)[Size]) : text(chars), length(Size - 1)
     {
-        static_assert(Size <= 200, "fits a slot");
+        static_assert(Size - 1 <= longest_name);
     }
 
     const char *text;

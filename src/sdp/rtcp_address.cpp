@@ -81,11 +81,12 @@ void get_rtcp_ipaddress(rtcp_address_info *destination, const media_description 
         dak_assert_failed();
         return;
     }
-    *destination = {};
-    if (description != nullptr)
+    if (description != nullptr) {
         *destination = description->rtcp_address;
-    else
-        dak_assert_failed();
+        return;
+    }
+    *destination = {};
+    dak_assert_failed();
 }
 
 int parse_a_euqal_rtcp(const char *line_start, const char *line_end, uint32_t *port,

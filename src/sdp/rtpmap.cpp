@@ -1,18 +1,17 @@
 #include "sdp/rtpmap.h"
 
-#include "util/line_scan.h"
 #include "util/number.h"
 #include "util/report.hpp"
 #include "util/text.h"
-#include "util/token.h"
+#include "util/token.hpp"
 
 using namespace dak;
 
 namespace {
 
-int read_number(const char *start, const char *stop, uint32_t *number)
+int read_number(text_range text, uint32_t *number)
 {
-    return dak_atoi(start, DAK_ATOI_LENIENT, static_cast<uint32_t>(stop - start), number);
+    return dak_atoi(text.first, DAK_ATOI_LENIENT, static_cast<uint32_t>(text.length()), number);
 }
 
 } // namespace
@@ -20,11 +19,10 @@ int read_number(const char *start, const char *stop, uint32_t *number)
 int parse_a_euqal_rtpmap(const char *line_start, const char *line_end, uint32_t *payload_number,
                          char *encoding_name, uint32_t *clock_rate, uint32_t *encoding_param)
 {
-    const char *start = nullptr;
-    const char *colon = nullptr;
-    if (!get_token(line_start, 0, line_end, &start, &colon, ":") || colon >= line_end)
+    text_range head(line_start, line_start);
+    if (!take_token(line_start, 0, line_end, ":", head) || head.last >= line_end)
         return fail();
-    const char *position = skip_whitespace(colon + 1, line_end);
+    const char *position = skip_blanks(head.last + 1, line_end);
     return get_media_payload_number(&position, line_end, payload_number) &&
            get_media_encoding_name_clock_rate_encoding_parameter(position, line_end, encoding_name,
                                                                  clock_rate, encoding_param);
@@ -34,11 +32,10 @@ int get_media_payload_number(const char **position, const char *end, uint32_t *n
 {
     if (position == nullptr || number == nullptr)
         return fail();
-    const char *start = nullptr;
-    const char *stop = nullptr;
-    if (!get_token(*position, 0, end, &start, &stop, nullptr) || !read_number(start, stop, number))
+    text_range token(*position, *position);
+    if (!take_token(*position, 0, end, nullptr, token) || !read_number(token, number))
         return fail();
-    *position = stop + 1;
+    *position = token.last + 1;
     return 1;
 }
 
@@ -48,19 +45,18 @@ int get_media_encoding_name_clock_rate_encoding_parameter(const char *position, 
 {
     if (encoding_name == nullptr || clock_rate == nullptr || encoding_param == nullptr)
         return fail();
-    const char *start = nullptr;
-    const char *stop = nullptr;
-    if (!get_token(position, 0, end, &start, &stop, "/") ||
-        !create_string(encoding_name, start, static_cast<uint32_t>(stop - start)))
+    text_range token(position, position);
+    if (!take_token(position, 0, end, "/", token) ||
+        !create_string(encoding_name, token.first, static_cast<uint32_t>(token.length())))
         return fail();
-    if (!get_token(stop, 1, end, &start, &stop, "/"))
+    if (!take_token(token.last, 1, end, "/", token))
         return fail();
     // A rate without a slash behind it runs through `end`, where the text may already be over.
-    stop = stop < end ? stop : end;
-    if (!read_number(start, stop, clock_rate))
+    token.last = token.last < end ? token.last : end;
+    if (!read_number(token, clock_rate))
         return fail();
     *encoding_param = 1;
-    if (!get_token(stop, 1, end, &start, &stop, nullptr))
+    if (!take_token(token.last, 1, end, nullptr, token))
         return 1;
-    return read_number(start, stop, encoding_param) ? 1 : fail();
+    return read_number(token, encoding_param) ? 1 : fail();
 }

@@ -10,13 +10,14 @@ namespace {
 
 constexpr uint32_t int32_max = 0x7FFFFFFF;
 
-// The value of a decimal or hexadecimal digit, or `base` for any other character.
-uint32_t digit_value(char c, uint32_t base)
+// The value of a decimal or hexadecimal digit, or `base` or more for any other character.
+inline uint32_t digit_value(char c, uint32_t base)
 {
-    if (is_digit(c))
-        return static_cast<uint32_t>(c - '0');
+    const auto digit = static_cast<uint32_t>(static_cast<unsigned char>(c) - '0');
+    if (digit < 10 || base == 10)
+        return digit;
     const unsigned char letter = to_upper(c);
-    return base == 16 && letter >= 'A' && letter <= 'F' ? letter - 'A' + 10U : base;
+    return letter >= 'A' && letter <= 'F' ? letter - 'A' + 10U : base;
 }
 
 // What a character that is no digit means to each mode: the end of the number, or a failure.
@@ -39,12 +40,11 @@ int dak_atoi(const char *text, int mode, uint32_t length, uint32_t *out)
     if (text == nullptr)
         return fail();
     const uint32_t base = mode == DAK_ATOI_HEX ? 16 : 10;
-    uint64_t number = 0;
     for (uint32_t i = 0; i < length; i++) {
         const uint32_t digit = digit_value(text[i], base);
-        if (digit == base)
+        if (digit >= base)
             return end_of_number(text[i], mode);
-        number = number * base + digit;
+        const uint64_t number = uint64_t{*out} * base + digit;
         if (number > int32_max)
             return fail();
         *out = static_cast<uint32_t>(number);
@@ -66,7 +66,7 @@ int dak_atoi64(const char *text, uint32_t length, int64_t *out)
     uint64_t magnitude = 0;
     for (uint32_t i = negative ? 1 : 0; i < length && !is_white(text[i]); i++) {
         const uint32_t digit = digit_value(text[i], 10);
-        if (digit == 10 || magnitude > UINT64_MAX / 10)
+        if (digit >= 10 || magnitude > UINT64_MAX / 10)
             return 0;
         magnitude = magnitude * 10 + digit;
         if (magnitude > limit || magnitude < digit)
@@ -110,12 +110,13 @@ scanned_number dak::scan_number(text_range text, size_t width, uint32_t base, bo
     bool overflows = false;
     for (; !text.empty(); text.first++) {
         const uint32_t digit = digit_value(*text.first, base);
-        if (digit == base)
+        if (digit >= base)
             break;
         number.is_read = true;
-        overflows = overflows || number.bits > (base == 10 ? UINT64_MAX / 10 : UINT64_MAX / 16);
+        // A further digit of either base can pass a limit only from here on.
+        if (number.bits > UINT64_MAX / 32)
+            overflows = overflows || number.bits > (limit - digit) / base;
         number.bits = number.bits * base + digit;
-        overflows = overflows || number.bits < digit || number.bits > limit;
     }
     if (overflows)
         number.bits = limit;

@@ -2,7 +2,6 @@
 
 #include "util/bounded_text.hpp"
 #include "util/report.hpp"
-#include "util/trim.h"
 
 using namespace dak;
 
@@ -30,8 +29,7 @@ int create_string(char *destination, const char *source, uint32_t length)
         DAK_LOG("src str len exceeds dest str len %d\n", static_cast<int>(string_size));
         return fail();
     }
-    copy_text(destination, string_size, {source, strnlen(source, length)});
-    dak_remove_trailing_space(destination);
+    copy_text(destination, string_size, text_range(source, strnlen(source, length)).trimmed_end());
     return 1;
 }
 

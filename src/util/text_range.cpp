@@ -4,15 +4,14 @@ namespace dak {
 
 text_range text_range::take_token(delimiter_set delimiters)
 {
-    while (first != last && delimiters.has(*first))
-        first++;
     const char *start = first;
-    while (first != last && *first != '\0' && !delimiters.has(*first))
-        first++;
-    const text_range token(start, first);
-    if (first != last && *first != '\0')
-        first++;
-    return token;
+    while (start != last && delimiters.has(*start))
+        start++;
+    const char *stop = start;
+    while (stop != last && !delimiters.ends(*stop))
+        stop++;
+    first = stop != last && *stop != '\0' ? stop + 1 : stop;
+    return {start, stop};
 }
 
 } // namespace dak

@@ -17,14 +17,23 @@ public:
         : first_(characters[0]), second_(characters[Size > 2 ? 1 : 0]), third_(characters[Size > 3 ? 2 : 0])
     {
         static_assert(Size >= 2 && Size <= 4);
+        for (const char c : characters)
+            highest_ = c > highest_ ? c : highest_;
     }
 
     bool has(char c) const { return c == first_ || c == second_ || c == third_; }
+
+    // Whether a character is a delimiter or NUL; most characters of a token are above all of them.
+    bool ends(char c) const
+    {
+        return static_cast<unsigned char>(c) <= static_cast<unsigned char>(highest_) && (c == '\0' || has(c));
+    }
 
 private:
     char first_;
     char second_;
     char third_;
+    char highest_ = '\0'; // all are ASCII
 };
 
 struct text_range {
@@ -44,9 +53,12 @@ struct text_range {
     }
     bool equals(text_range other) const { return other.length() == length() && begins_with(other); }
 
-    // The same with terminated texts, which mostly differ within their first characters.
+    // The same with terminated texts. A literal is compared as a few words; other texts mostly differ within
+    // their first characters.
     bool begins_with(const char *prefix) const
     {
+        if (__builtin_constant_p(strlen(prefix)))
+            return strlen(prefix) <= length() && memcmp(first, prefix, strlen(prefix)) == 0;
         const char *place = first;
         for (; *prefix != '\0'; prefix++, place++) {
             if (place == last || *place != *prefix)
@@ -56,6 +68,8 @@ struct text_range {
     }
     bool equals(const char *other) const
     {
+        if (__builtin_constant_p(strlen(other)))
+            return strlen(other) == length() && memcmp(first, other, strlen(other)) == 0;
         const char *place = first;
         for (; place != last && *other != '\0' && *place == *other; other++)
             place++;

@@ -12,7 +12,7 @@ namespace {
 constexpr size_t destination_size = 256;
 
 // Takes a part that is short enough for its callers' fields; false, reported, for a longer one.
-bool take_part(text_range token, bool has_nul, text_range &part)
+inline bool take_part(text_range token, bool has_nul, text_range &part)
 {
     if (token.length() >= part_size)
         return fail();

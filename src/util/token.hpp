@@ -5,6 +5,8 @@
 #include "util/scan.hpp"
 #include "util/text_range.hpp"
 
+#include <stddef.h>
+
 namespace dak {
 
 // Characters of a type or a value with its terminator.
@@ -44,6 +46,13 @@ inline bool take_token(const char *position, const char *end, const char *delimi
         return false;
     token = {start, end_of_token(start, end, delimiter)};
     return !token.empty();
+}
+
+// get_token() for a piece of a line; nothing is left behind `end`.
+inline bool take_token(const char *base, ptrdiff_t offset, const char *end, const char *delimiter,
+                       text_range &token)
+{
+    return base != nullptr && offset < end - base && take_token(base + offset, end, delimiter, token);
 }
 
 // Whether a terminated text begins with a name that has no NUL.

@@ -17,6 +17,8 @@ public:
         codec_ = has_codec(*md, codec_index) ? &md->codecs[codec_index] : nullptr;
         kind_ = codec_ != nullptr ? find_kind(*codec_) : nullptr;
         slots_ = kind_ != nullptr ? set_slots(*codec_, *kind_) : 0;
+        for (uint32_t rest = slots_; rest != 0; rest &= rest - 1)
+            lengths_ |= uint32_t{1} << kind_->slots[__builtin_ctz(rest)].length;
     }
 
     // The text of a parameter, or null; asking for a codec that is not there is reported each time.
@@ -24,7 +26,7 @@ public:
     {
         if (codec_ == nullptr)
             return get_media_value(md_, codec_index_, name.first);
-        return slots_ != 0 ? get_parameter(*codec_, *kind_, slots_, name) : nullptr;
+        return has_length(name.length()) ? get_parameter(*codec_, *kind_, slots_, name) : nullptr;
     }
 
     template <typename Field> void signed_number(text_range name, uint8_t &is_present, Field &field) const
@@ -40,10 +42,14 @@ public:
     }
 
 private:
+    bool has_length(size_t length) const { return length <= longest_name && (lengths_ >> length & 1) != 0; }
+
     media_description *md_;
     media_codec *codec_;
     const codec_kind *kind_;
-    uint32_t slots_; // those that are set: most parameters of most formats are not
+    // Most parameters of most formats are not set: a bit for each slot that is, and for each length of its names.
+    uint32_t slots_;
+    uint32_t lengths_ = 0;
     uint16_t codec_index_;
 };
 
