@@ -29,31 +29,48 @@ bool can_be_read(uint32_t media_type)
     return media_type != SDP_MEDIA_DATA && media_type != SDP_MEDIA_CONTROL;
 }
 
-// Looks an attribute up; the value is empty for one without a colon.
-bool find_attribute(const media_description *md, const char *name, char (&value)[value_size])
-{
-    value[0] = '\0';
-    return get_media_description_attribute(md, name, value);
-}
-
-// The first word of a table that begins an attribute of the section, or null.
-template <size_t N> const word *find_property(const media_description *md, const word (&words)[N])
-{
-    char value[value_size];
-    for (const word &candidate : words) {
-        if (find_attribute(md, candidate.text, value))
-            return &candidate;
+// The attributes of a section, looked up by name. Most names that are asked for are absent, and mostly so is
+// their first letter.
+class attribute_finder {
+public:
+    explicit attribute_finder(const media_description &md) : md_(md)
+    {
+        for (const session_value *node = md.attributes; node != nullptr; node = node->next)
+            initials_ |= letter_bit(*node->text);
     }
-    return nullptr;
-}
 
-void read_properties(const media_description *md, sdp_media_line &mline)
+    // The value is empty for an attribute without a colon.
+    bool find(const char *name, char (&value)[value_size]) const
+    {
+        if ((initials_ & letter_bit(*name)) == 0)
+            return false;
+        value[0] = '\0';
+        return get_media_description_attribute(&md_, name, value);
+    }
+
+    // The first word of a table that begins an attribute, or null.
+    template <size_t N> const word *find(const word (&words)[N]) const
+    {
+        char value[value_size];
+        for (const word &candidate : words) {
+            if (find(candidate.text, value))
+                return &candidate;
+        }
+        return nullptr;
+    }
+
+private:
+    const media_description &md_;
+    uint32_t initials_ = 0;
+};
+
+void read_properties(const attribute_finder &attributes, sdp_media_line &mline)
 {
-    const word *direction = find_property(md, direction_words);
+    const word *direction = attributes.find(direction_words);
     mline.direction_present = direction != nullptr;
     if (direction != nullptr)
         mline.direction = direction->value;
-    const word *setup = find_property(md, setup_words);
+    const word *setup = attributes.find(setup_words);
     mline.setup_present = setup != nullptr;
     if (setup != nullptr)
         mline.setup = setup->value;
@@ -74,12 +91,12 @@ constexpr number_attribute number_attributes[] = {
     {"maxprate", &sdp_media_line::maxprate_present, &sdp_media_line::maxprate, nullptr},
 };
 
-void read_numbers(const media_description *md, sdp_media_line &mline)
+void read_numbers(const attribute_finder &attributes, sdp_media_line &mline)
 {
     char value[value_size];
     for (const number_attribute &attribute : number_attributes) {
         uint32_t number = 0;
-        if (!find_attribute(md, attribute.name, value))
+        if (!attributes.find(attribute.name, value))
             continue;
         mline.*attribute.is_present = static_cast<uint8_t>(
             dak_atoi(value, DAK_ATOI_LENIENT, static_cast<uint32_t>(strlen(value)), &number));
@@ -90,10 +107,10 @@ void read_numbers(const media_description *md, sdp_media_line &mline)
     }
 }
 
-uint32_t read_mid(const media_description *md, sdp_media_line &mline)
+uint32_t read_mid(const attribute_finder &attributes, sdp_media_line &mline)
 {
     char value[value_size];
-    if (!find_attribute(md, "mid", value))
+    if (!attributes.find("mid", value))
         return SDP_OA_SUCCESS;
     mline.mid_present = 1;
     if (copy_text(mline.mid, value))
@@ -313,9 +330,10 @@ uint32_t dak_app_oa_parse_media_gen_attr(media_description *md, sdp_media_line *
             "dak_app_oa_parse_media_gen_attr: Incorrect                                                     params\n");
         return SDP_OA_BAD_PARAMETERS;
     }
-    read_properties(md, *mline);
-    read_numbers(md, *mline);
-    uint32_t result = read_mid(md, *mline);
+    const attribute_finder attributes(*md);
+    read_properties(attributes, *mline);
+    read_numbers(attributes, *mline);
+    uint32_t result = read_mid(attributes, *mline);
     if (result == SDP_OA_SUCCESS)
         result = read_feedback(md, *mline);
     if (result == SDP_OA_SUCCESS)

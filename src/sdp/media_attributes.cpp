@@ -25,9 +25,18 @@ struct attribute_reader {
     const char *failure;
 };
 
-// The first name that begins an attribute decides. Some failures are logged under another attribute's name; log
+// The first name that begins an attribute decides; those of most lines come first. Some failures are logged under another attribute's name; log
 // filters match on these texts.
 constexpr attribute_reader attribute_readers[] = {
+    {"fmtp", parse_a_equal_fmtp_line, "parse fmtp err "},
+    {"curr", parse_a_equal_pcd_line,
+     "process_media_attribute :                              parse pcd error \n"},
+    {"des", parse_a_equal_pcd_line,
+     "process_media_attribute :                              parse pcd error \n"},
+    {"conf", parse_a_equal_pcd_line,
+     "process_media_attribute :                              parse pcd error \n"},
+    {"rtcp-fb", dak_sdp_parse_a_equal_rtcp_fb_line,
+     "process_media_attribute :                              parse rtcp-fb error \n"},
     {"accept-types", dak_sdp_parse_a_equal_accept_type_line, "parse accept-type err "},
     {"accept-wrapped-types", dak_sdp_parse_a_equal_accept_wrapped_type_line, "parse accept-type err "},
     {"path", dak_sdp_parse_a_equal_path_line, "parse accept-type err "},
@@ -38,16 +47,15 @@ constexpr attribute_reader attribute_readers[] = {
     {"file-range", dak_sdp_parse_a_equal_file_range_line, "parse file range err "},
     {"file-selector", dak_sdp_parse_a_equal_file_selector_line, "parse file selector err "},
     {"max-size", dak_sdp_parse_a_equal_max_size_line, "parse file selector err "},
-    {"fmtp", parse_a_equal_fmtp_line, "parse fmtp err "},
-    {"curr", parse_a_equal_pcd_line,
-     "process_media_attribute :                              parse pcd error \n"},
-    {"des", parse_a_equal_pcd_line,
-     "process_media_attribute :                              parse pcd error \n"},
-    {"conf", parse_a_equal_pcd_line,
-     "process_media_attribute :                              parse pcd error \n"},
-    {"rtcp-fb", dak_sdp_parse_a_equal_rtcp_fb_line,
-     "process_media_attribute :                              parse rtcp-fb error \n"},
 };
+
+// A bit for each letter that begins a reader's name.
+constexpr uint32_t initials = [] {
+    uint32_t letters = 0;
+    for (const attribute_reader &reader : attribute_readers)
+        letters |= letter_bit(*reader.name);
+    return letters;
+}();
 
 // The next line of the section; empty at the next m= line and at the end of the text.
 text_range next_line_of_section(const char *position, const char *end)
@@ -99,7 +107,7 @@ void read_bindings(media_description *description, const char *position, const c
 
 const attribute_reader *find_reader(text_range attribute)
 {
-    if (attribute.empty())
+    if (attribute.empty() || (initials & letter_bit(*attribute.first)) == 0)
         return nullptr;
     for (const attribute_reader &reader : attribute_readers) {
         if (*reader.name == *attribute.first && attribute.begins_with(reader.name))

@@ -5,8 +5,8 @@
 #include "sdp/line_match.h"
 #include "sdp/media_description.h"
 #include "sdp/session_values.h"
-#include "util/line_scan.h"
 #include "util/report.hpp"
+#include "util/scan.hpp"
 
 #include <string.h>
 
@@ -60,14 +60,12 @@ int parse_session_info(sdp_lib_context *context, const char **position, const ch
     sdp_info_container *document = selected_document(context, SDP_PARSER_DOCUMENT);
     if (document == nullptr || position == nullptr || *position == nullptr || *position >= end)
         return fail();
-    const char *line_start = nullptr;
-    const char *line_end = nullptr;
-    while (get_next_line(*position, end, &line_start, &line_end)) {
-        if (find_media_description(line_start, line_end))
+    for (text_range line = next_line(*position, end); !line.empty(); line = next_line(line.last, end)) {
+        if (find_media_description(line.first, line.last))
             return 1;
-        if (!parse_session_value(document, line_start, line_end))
+        if (!parse_session_value(document, line.first, line.last))
             return fail();
-        *position = line_end;
+        *position = line.last;
     }
     return 1;
 }
@@ -77,12 +75,10 @@ int parse_media_description(sdp_lib_context *context, const char *position, cons
     sdp_info_container *document = selected_document(context, SDP_PARSER_DOCUMENT);
     if (document == nullptr || position == nullptr || end == nullptr)
         return fail();
-    const char *line_start = nullptr;
-    const char *line_end = nullptr;
-    while (get_next_line(position, end, &line_start, &line_end)) {
-        position = line_end;
-        if (find_media_description(line_start, line_end) &&
-            !parse_section(document, line_start, &position, end))
+    for (text_range line = next_line(position, end); !line.empty(); line = next_line(position, end)) {
+        position = line.last;
+        if (find_media_description(line.first, line.last) &&
+            !parse_section(document, line.first, &position, end))
             return 0;
     }
     return 1;

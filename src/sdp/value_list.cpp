@@ -16,14 +16,13 @@ session_value *append_value(session_value *&head, session_value *&tail)
     return node;
 }
 
-void free_values(session_value *&head, session_value *&tail)
+void free_nodes(session_value *node)
 {
-    while (head != nullptr) {
-        session_value *next = head->next;
-        dak_free(head);
-        head = next;
+    while (node != nullptr) {
+        session_value *next = node->next;
+        dak_free(node);
+        node = next;
     }
-    tail = nullptr;
 }
 
 } // namespace dak

@@ -9,8 +9,16 @@ namespace dak {
 // Links an empty node behind the last; null, reported, when memory runs out.
 session_value *append_value(session_value *&head, session_value *&tail);
 
-// Frees every node and empties the list.
-void free_values(session_value *&head, session_value *&tail);
+// Frees the nodes from one on.
+void free_nodes(session_value *node);
+
+// Frees every node and empties the list; most lists of a document are empty.
+inline void free_values(session_value *&head, session_value *&tail)
+{
+    if (head != nullptr)
+        free_nodes(head);
+    head = tail = nullptr;
+}
 
 } // namespace dak
 

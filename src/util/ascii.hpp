@@ -15,6 +15,9 @@ constexpr unsigned char to_upper(char c)
     return byte >= 'a' && byte <= 'z' ? static_cast<unsigned char>(byte - 'a' + 'A') : byte;
 }
 
+// A bit of its own for each small letter; other characters share one of them or have none.
+constexpr unsigned letter_bit(char c) { return static_cast<unsigned char>(c) >= 'a' ? 1U << (c & 31) : 0; }
+
 // Compares two texts of one length, letters folded.
 constexpr bool equal_ignoring_case(const char *a, const char *b, decltype(sizeof 0) length)
 {
