@@ -66,11 +66,17 @@ int store_parameter(media_codec &codec, const codec_kind &kind, text_range piece
     if (piece.empty() || *piece.first == '=')
         return fail();
     const char *equals = piece.find('=');
-    const text_range name = equals != nullptr ? text_range(piece.first, equals).trimmed() : text_range();
-    const text_range value = text_range(equals != nullptr ? equals + 1 : piece.first, piece.last).trimmed();
+    text_range name(piece.first, equals != nullptr ? equals : piece.first);
+    text_range value(equals != nullptr ? equals + 1 : piece.first, piece.last);
+    name = name.trimmed();
+    value = value.trimmed();
     if (value.empty() || name.length() >= max_size || value.length() >= max_size)
         return fail();
-    if (set_parameter(codec, kind, name.terminated().trimmed(), value.terminated()))
+    if (piece.find('\0') != nullptr) {
+        name = name.terminated().trimmed();
+        value = value.terminated();
+    }
+    if (set_parameter(codec, kind, name, value))
         return 1;
     // Without its name the payload format is unusable for those who look formats up by name.
     DAK_LOG("Invalid MIME or an invalid attribute\n");

@@ -6,6 +6,7 @@
 #include "sdp/value_list.hpp"
 #include "util/bounded_text.hpp"
 #include "util/report.hpp"
+#include "util/scan.hpp"
 #include "util/token.h"
 #include "util/token.hpp"
 #include "util/trim.h"
@@ -15,6 +16,17 @@ using namespace dak;
 namespace {
 
 constexpr size_t value_size = 200;
+
+// Whether an attribute is kept as it stands: splitting it would trim nothing off and cut nothing.
+bool is_kept_whole(text_range attribute)
+{
+    if (attribute.empty() || attribute.length() >= value_size || has_control_characters(attribute) ||
+        *attribute.first == ' ' || attribute.last[-1] == ' ')
+        return false;
+    const char *colon = attribute.find(':');
+    return colon == nullptr || (colon != attribute.first && colon + 1 != attribute.last && colon[-1] != ' ' &&
+                                colon[1] != ' ');
+}
 
 bool format_attribute(char (&text)[200], text_range name, const text_range *value)
 {
@@ -108,9 +120,14 @@ int parse_sdp_attribute(media_description *description, const char *line_start, 
     if (description == nullptr || line_start == nullptr || line_end == nullptr)
         return fail();
     const text_range line(line_start, line_end);
-    const type_and_value attribute = line.length() < 2
-                                         ? type_and_value(line.first)
-                                         : split_type_and_value(line.first + 2, line.last, ":", "\r");
+    const text_range text(line.first + (line.length() < 2 ? line.length() : 2), line.last);
+    type_and_value attribute(text.first);
+    if (is_kept_whole(text)) {
+        attribute.type = text;
+        attribute.parts = 1;
+    } else {
+        attribute = split_type_and_value(text.first, text.last, ":", "\r");
+    }
     if (attribute.parts == 0) {
         DAK_LOG("parse sdp a=, no values parsed ");
         return 0;

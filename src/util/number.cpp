@@ -40,16 +40,23 @@ int dak_atoi(const char *text, int mode, uint32_t length, uint32_t *out)
     if (text == nullptr)
         return fail();
     const uint32_t base = mode == DAK_ATOI_HEX ? 16 : 10;
-    for (uint32_t i = 0; i < length; i++) {
-        const uint32_t digit = digit_value(text[i], base);
-        if (digit >= base)
-            return end_of_number(text[i], mode);
-        const uint64_t number = uint64_t{*out} * base + digit;
-        if (number > int32_max)
-            return fail();
-        *out = static_cast<uint32_t>(number);
+    uint32_t number = 0;
+    int result = 1;
+    for (const char *end = text + length; text != end; text++) {
+        const uint32_t digit = digit_value(*text, base);
+        if (digit >= base) {
+            result = end_of_number(*text, mode);
+            break;
+        }
+        const uint64_t longer = uint64_t{number} * base + digit;
+        if (longer > int32_max) {
+            result = fail();
+            break;
+        }
+        number = static_cast<uint32_t>(longer);
     }
-    return 1;
+    *out = number;
+    return result;
 }
 
 int dak_atoi64(const char *text, uint32_t length, int64_t *out)

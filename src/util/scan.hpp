@@ -43,6 +43,18 @@ inline uint64_t control_characters(const char *position)
     return (word - each * 16) & ~word & each << 7;
 }
 
+// Whether a text has a control character below 16: NUL, a tab, the end of a line.
+inline bool has_control_characters(text_range text)
+{
+    for (; text.length() >= 8; text.first += 8) {
+        if (control_characters(text.first) != 0)
+            return true;
+    }
+    while (!text.empty() && static_cast<unsigned char>(*text.first) >= 16)
+        text.first++;
+    return !text.empty();
+}
+
 // Eight characters at a time: all of a body goes through here more than once.
 inline const char *find_line_term(const char *position, const char *end)
 {
