@@ -1,7 +1,7 @@
 #include "codec/fmtp_encode.h"
 
 #include "codec/media_info.h"
-#include "sdp/text_buffer.h"
+#include "sdp/text_buffer.hpp"
 #include "util/bounded_text.hpp"
 #include "util/report.hpp"
 
@@ -11,7 +11,7 @@ namespace {
 
 constexpr size_t scratch_size = 200;
 
-// Hands one piece of the line to the text buffer by way of the scratch text.
+// Hands one piece of the line to the text buffer; it is left in the scratch text as well.
 int append_piece(sdp_lib_context *context, char *scratch, const line_builder &piece)
 {
     if (!piece.fits()) {
@@ -19,7 +19,7 @@ int append_piece(sdp_lib_context *context, char *scratch, const line_builder &pi
         return fail();
     }
     copy_text(scratch, scratch_size, piece.text());
-    return fill_sdp_buffer(context, scratch) ? 1 : fail();
+    return append_sdp_text(context, piece.text()) ? 1 : fail();
 }
 
 int append_parameter(sdp_lib_context *context, char *scratch, text_range name, text_range value)
@@ -48,16 +48,17 @@ int dak_sdp_encode_a_equal_fmtp_line(int count, const uint32_t *present, uint32_
     if (count > MEDIA_INFO_MAX_SLOTS || present == nullptr || scratch == nullptr || context == nullptr ||
         names == nullptr || values == nullptr || separator == nullptr)
         return fail();
+    const text_range between(separator);
     bool is_started = false;
     for (int i = 0; i < count; i++) {
         if (present[i] != 1)
             continue;
-        if (!(is_started ? fill_sdp_buffer(context, separator)
+        if (!(is_started ? append_sdp_text(context, between)
                          : append_head(context, scratch, payload_number)))
             return fail();
         is_started = true;
         if (!append_parameter(context, scratch, field_text(names[i]), field_text(values[i])))
             return fail();
     }
-    return is_started && !fill_sdp_buffer(context, "\r\n") ? fail() : 1;
+    return is_started && !append_sdp_text(context, "\r\n") ? fail() : 1;
 }

@@ -42,8 +42,9 @@ int dak_sdp_set_media_value(media_description *description, const char *type, co
 {
     if (description == nullptr || type == nullptr || value == nullptr)
         return fail();
-    const int slot = find_free_slot(*description, [description, type](int candidate) {
-        return equal_ignoring_case(description->media_value_tags[candidate], type);
+    const text_range tag(type);
+    const int slot = find_free_slot(*description, [description, tag](int candidate) {
+        return equal_ignoring_case(description->media_value_tags[candidate], tag);
     });
     if (slot == no_slot) {
         DAK_LOG("No entry found for the tag %s \n", type);

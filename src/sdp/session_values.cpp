@@ -22,7 +22,7 @@ int fail_as_too_long()
     return fail();
 }
 
-int find_slot_ignoring_case(const sdp_info_container &document, const char *tag)
+int find_slot_ignoring_case(const sdp_info_container &document, text_range tag)
 {
     for (int slot = 0; slot < get_total_session_number_tag(); slot++) {
         if (equal_ignoring_case(document.type_tags[slot], tag))

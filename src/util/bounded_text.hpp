@@ -50,12 +50,19 @@ public:
     {
         fits_ = fits_ && piece.length() < Size - length_;
         if (fits_) {
-            copy_text(text_ + length_, Size - length_, piece);
+            memcpy(text_ + length_, piece.first, piece.length());
             length_ += piece.length();
+            text_[length_] = '\0';
         }
         return *this;
     }
-    built_text &add(char c) { return add(text_range(&c, size_t{1})); }
+    built_text &add(char c)
+    {
+        fits_ = fits_ && Size - length_ > 1;
+        if (fits_)
+            append(text_ + length_++, c);
+        return *this;
+    }
     built_text &add_number(uint64_t number) { return add(decimal(number).text()); }
     built_text &add_signed(int64_t number) { return add(decimal::of_signed(number).text()); }
 
@@ -72,6 +79,12 @@ public:
     text_range text() const { return {text_, length_}; }
 
 private:
+    static void append(char *end, char c)
+    {
+        end[0] = c;
+        end[1] = '\0';
+    }
+
     size_t length_ = 0;
     bool fits_ = true;
     char text_[Size];

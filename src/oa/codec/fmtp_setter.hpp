@@ -5,36 +5,45 @@
 #include "oa/codec/fmtp_setter.h"
 #include "oa/result_code.h"
 #include "oa/truncation.hpp"
+#include "util/text_range.hpp"
 
 namespace dak {
 
+struct codec_kind;
+
 class parameter_writer {
 public:
-    parameter_writer(media_description *md, uint16_t codec_index) : md_(md), codec_index_(codec_index) {}
+    // The payload format is looked up once.
+    parameter_writer(media_description *md, uint16_t codec_index);
 
-    parameter_writer &integer(bool is_present, uint32_t value, const char *name)
+    parameter_writer &integer(bool is_present, uint32_t value, text_range name)
     {
         if (is_present && result_ == SDP_OA_SUCCESS)
-            result_ = dak_app_sdp_set_int_inmline(md_, codec_index_, static_cast<int32_t>(value), name);
+            set_integer(static_cast<int32_t>(value), name);
         return *this;
     }
-    parameter_writer &flag(bool is_present, uint32_t value, const char *name)
+    parameter_writer &flag(bool is_present, uint32_t value, text_range name)
     {
         if (is_present && result_ == SDP_OA_SUCCESS)
-            result_ = dak_app_sdp_set_bool_inmline(md_, codec_index_, static_cast<int32_t>(value), name);
+            set_flag(value != 0, name);
         return *this;
     }
-    parameter_writer &text(bool is_present, const char *value, const char *name)
+    parameter_writer &text(bool is_present, text_range value, text_range name)
     {
         if (is_present && result_ == SDP_OA_SUCCESS)
-            result_ = dak_app_sdp_set_string_inmline(md_, codec_index_, value, name);
+            set_text(value, name);
         return *this;
     }
     uint32_t result() const { return result_; }
 
 private:
-    media_description *md_;
-    uint16_t codec_index_;
+    void set_integer(int32_t value, text_range name);
+    void set_flag(bool value, text_range name);
+    void set_text(text_range value, text_range name);
+    void set(text_range value, text_range name, const char *failure);
+
+    media_codec *codec_; // null for a format that is not there
+    const codec_kind *kind_;
     uint32_t result_ = SDP_OA_SUCCESS;
 };
 

@@ -76,7 +76,7 @@ void write_sizes(parameter_writer &writer, const h263_params &params)
 {
     for (const picture_size &size : picture_sizes)
         writer.integer(params.*size.is_present, unsigned_of(params.*size.value), size.name);
-    writer.text(params.custom_present, custom_text(params).c_str(), "CUSTOM");
+    writer.text(params.custom_present, custom_text(params).text(), "CUSTOM");
     for (const annex &option : annexes)
         writer.flag(params.*option.is_set, 1, option.name);
     for (const submode &option : submodes)
@@ -86,9 +86,9 @@ void write_sizes(parameter_writer &writer, const h263_params &params)
 void write_options(parameter_writer &writer, const h263_params &params)
 {
     const auto cpcf = terminated(params.cpcf);
-    writer.text(params.p_count != 0, submode_list(params).c_str(), "P")
+    writer.text(params.p_count != 0, submode_list(params).text(), "P")
         .integer(params.par_present, unsigned_of(params.par), "PAR")
-        .text(params.cpcf_present, cpcf.c_str(), "CPCF")
+        .text(params.cpcf_present, cpcf.text(), "CPCF")
         .integer(params.bpp_present, unsigned_of(params.bpp), "BPP")
         .flag(params.hrd, 1, "HRD");
 }
