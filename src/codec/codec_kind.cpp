@@ -13,7 +13,7 @@ namespace {
 void write_names(char (*names)[200], const codec_kind &kind)
 {
     for (int i = 0; i < kind.count; i++)
-        memcpy(names[i], kind.slots[i].text, size_t{kind.slots[i].length} + 1);
+        kind.slots[i].copy_to(names[i]);
 }
 
 int initialise(const codec_kind &kind, media_codec *codec)
@@ -37,7 +37,7 @@ int set_value(const codec_kind &kind, const media_description *description, int 
     // What tells telephone-event from the other kinds: its line holds the one value without a name.
     const bool is_nameless = name == nullptr || *name == '\0';
     if (is_nameless && &kind == &kinds::telephone_event)
-        name = kind.slots[0].text;
+        name = kind.slots[0].c_str();
     media_info &info = codec->info;
     return set_attr_value_by_mime(name, value, info.param_name, info.param_value, info.param_present,
                                   kind.count);

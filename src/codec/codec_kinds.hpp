@@ -4,6 +4,7 @@
 #define DAKSDP_CODEC_CODEC_KINDS_HPP
 
 #include "codec/media_info.h"
+#include "util/fixed_text.hpp"
 
 #include <stddef.h>
 
@@ -110,22 +111,12 @@
 
 namespace dak {
 
-// Its length can stand for a name in a word of bits.
-inline constexpr size_t longest_name = 31;
-
-// The name of a slot with its length.
-struct literal {
-    template <size_t Size> constexpr literal(const char (&chars)[Size]) : text(chars), length(Size - 1)
-    {
-        static_assert(Size - 1 <= longest_name);
-    }
-
-    const char *text;
-    uint8_t length;
-};
+// Of a length that can stand for a name in a word of bits.
+inline constexpr size_t longest_name = 30;
+using slot_name = fixed_text<longest_name + 1>;
 
 struct codec_kind {
-    const literal *slots;
+    const slot_name *slots;
     uint8_t count;
     const char *separator;
 };
@@ -133,7 +124,7 @@ struct codec_kind {
 namespace kinds {
 
 #define DAK_KIND(kind, init, set, get, encode, separator, ...) \
-    inline constexpr literal kind##_slots[] = {__VA_ARGS__}; \
+    inline constexpr slot_name kind##_slots[] = {__VA_ARGS__}; \
     static_assert(sizeof kind##_slots / sizeof *kind##_slots <= MEDIA_INFO_MAX_SLOTS); \
     inline constexpr codec_kind kind = {kind##_slots, sizeof kind##_slots / sizeof *kind##_slots, separator};
 DAK_CODEC_KINDS(DAK_KIND)

@@ -23,8 +23,8 @@ int find_slot(text_range name, char (*names)[200], int count)
 // the record's may have been dropped.
 bool is_named(const media_info &info, const codec_kind &kind, int slot, text_range name)
 {
-    const literal &own = kind.slots[slot];
-    return own.length == name.length() && equal_ignoring_case(own.text, name.first, own.length) &&
+    const slot_name &own = kind.slots[slot];
+    return own.length() == name.length() && equal_ignoring_case(own.c_str(), name.first, own.length()) &&
            equal_ignoring_case(info.param_name[slot], name);
 }
 
@@ -78,7 +78,7 @@ int dak::set_parameter(media_codec &codec, const codec_kind &kind, text_range na
     if (kind.count == 0)
         return 0;
     if (name.empty() && &kind == &kinds::telephone_event)
-        name = {kind.slots[0].text, size_t{kind.slots[0].length}};
+        name = kind.slots[0];
     media_info &info = codec.info;
     return store(find_slot(name, info, kind), value, info.param_value, info.param_present);
 }

@@ -174,7 +174,7 @@ uint32_t encode_direction(media_description *md, const sdp_media_line &mline)
     if (mline.direction_present == 0)
         return SDP_OA_SUCCESS;
     if (const word *direction = find_word(direction_words, mline.direction); direction != nullptr)
-        return store_property(md, direction->text);
+        return store_property(md, direction->text.c_str());
     DAK_LOG("dak_app_oa_encode_media_gen_attr:Invalid                               dir.attr: %d\n",
             static_cast<int>(mline.direction));
     return SDP_OA_INVALID_CONTENT;
@@ -192,9 +192,9 @@ uint32_t encode_setup(media_description *md, const sdp_media_line &mline)
         return SDP_OA_INVALID_CONTENT;
     }
     if (mline.conn_status_present == 0)
-        return store_property(md, setup->text);
+        return store_property(md, setup->text.c_str());
     if (const word *connection = find_word(connection_words, mline.conn_status); connection != nullptr)
-        return store_property(md, connection->text);
+        return store_property(md, connection->text.c_str());
     DAK_LOG("dak_app_oa_encode_media_gen_attr:Invalid                              conn_status.attr: %d\n",
             static_cast<int>(mline.conn_status));
     return SDP_OA_INVALID_CONTENT;
@@ -331,7 +331,7 @@ media_description *dak_app_oa_encode_common_media_line(const sdp_media_line *mli
     const word *media = find_word(media_words, mline->media_type);
     if (media == nullptr || !can_be_written(mline->media_type))
         return nullptr;
-    return init_media_description(media->text, mline->port, mline->num_ports, transport->text,
+    return init_media_description(media->text.c_str(), mline->port, mline->num_ports, transport->text.c_str(),
                                   mline->payload_numbers, mline->num_formats);
 }
 

@@ -29,20 +29,20 @@ bool can_be_read(uint32_t media_type)
     return media_type != SDP_MEDIA_DATA && media_type != SDP_MEDIA_CONTROL;
 }
 
-// The attributes of a section, looked up by name. Most names that are asked for are absent, and mostly so is
-// their first letter.
+// The attributes of a section, looked up by names of three letters or more. Most names that are asked for are
+// absent, and mostly so is any attribute that begins alike.
 class attribute_finder {
 public:
     explicit attribute_finder(const media_description &md) : md_(md)
     {
         for (const session_value *node = md.attributes; node != nullptr; node = node->next)
-            initials_ |= letter_bit(*node->text);
+            beginnings_ |= beginning(node->text);
     }
 
     // The value is empty for an attribute without a colon.
     bool find(const char *name, char (&value)[value_size]) const
     {
-        if ((initials_ & letter_bit(*name)) == 0)
+        if ((beginnings_ & beginning(name)) == 0)
             return false;
         value[0] = '\0';
         return get_media_description_attribute(&md_, name, value);
@@ -53,15 +53,23 @@ public:
     {
         char value[value_size];
         for (const word &candidate : words) {
-            if (find(candidate.text, value))
+            if (find(candidate.text.c_str(), value))
                 return &candidate;
         }
         return nullptr;
     }
 
 private:
+    // One of 64 bits for the first three letters of a text; no bit for a shorter one.
+    static uint64_t beginning(const char *text)
+    {
+        if (text[0] == '\0' || text[1] == '\0' || text[2] == '\0')
+            return 0;
+        return uint64_t{1} << ((text[0] + 5 * text[1] + 25 * text[2]) & 63);
+    }
+
     const media_description &md_;
-    uint32_t initials_ = 0;
+    uint64_t beginnings_ = 0;
 };
 
 void read_properties(const attribute_finder &attributes, sdp_media_line &mline)

@@ -58,7 +58,7 @@ void print_media_line(const sdp_media_line &mline)
     DAK_LOG("Media Port = %hu\n", mline.port);
     DAK_LOG("Number of ports = %u\n", static_cast<unsigned>(mline.num_ports));
     if (const word *transport = find_word(transport_words, mline.transport); transport != nullptr)
-        DAK_LOG("Media Profile: %s", transport->text);
+        DAK_LOG("Media Profile: %s", transport->text.c_str());
     else
         DAK_LOG("Unknown media profile type\n");
     print_bandwidth(mline.bandwidth);
@@ -78,10 +78,10 @@ void print_attributes(const sdp_media_line &mline)
         dak_app_oa_print_precondition_attr(&mline.preconds[i]);
     const word *setup = find_word(setup_words, mline.setup);
     if (mline.setup_present != 0 && setup != nullptr)
-        DAK_LOG("a=%s", setup->text);
+        DAK_LOG("a=%s", setup->text.c_str());
     const word *connection = find_word(connection_words, mline.conn_status);
     if (mline.conn_status_present != 0 && connection != nullptr)
-        DAK_LOG("a=%s", connection->text);
+        DAK_LOG("a=%s", connection->text.c_str());
 }
 
 void print_accept(const sdp_accept_attr &accept, const char *name)

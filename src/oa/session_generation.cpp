@@ -119,7 +119,7 @@ uint32_t encode_direction(sdp_lib_context *document, const sdp_container &contai
                 static_cast<int>(container.direction));
         return SDP_OA_INVALID_CONTENT;
     }
-    is_refused = store(document, "a=", direction->text,
+    is_refused = store(document, "a=", direction->text.c_str(),
                        "dak_app_oa_encode_gen_attr:                              Invalid attr tag\n") !=
                  SDP_OA_SUCCESS;
     return SDP_OA_SUCCESS;

@@ -128,7 +128,7 @@ void read_direction(sdp_lib_context *document, sdp_container &container)
     char value[text_size] = "";
     container.direction_present = 0;
     for (const word &direction : direction_words) {
-        if (!get_session_attribute_value(document, SDP_PARSER_DOCUMENT, direction.text, value))
+        if (!get_session_attribute_value(document, SDP_PARSER_DOCUMENT, direction.text.c_str(), value))
             continue;
         container.direction_present = 1;
         container.direction = direction.value;

@@ -4,13 +4,13 @@
 
 #include "attr/precondition.h"
 #include "oa/sdp_container.h"
-#include "util/text_range.hpp"
+#include "util/fixed_text.hpp"
 
 namespace dak {
 
 struct word {
     uint32_t value;
-    const char *text;    // in SDP
+    fixed_text<23> text; // in SDP
     const char *printed; // in the dump: a log text
 };
 

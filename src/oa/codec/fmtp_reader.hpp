@@ -18,7 +18,7 @@ public:
         kind_ = codec_ != nullptr ? find_kind(*codec_) : nullptr;
         slots_ = kind_ != nullptr ? set_slots(*codec_, *kind_) : 0;
         for (uint32_t rest = slots_; rest != 0; rest &= rest - 1)
-            lengths_ |= uint32_t{1} << kind_->slots[__builtin_ctz(rest)].length;
+            lengths_ |= uint32_t{1} << kind_->slots[__builtin_ctz(rest)].length();
     }
 
     // The text of a parameter, or null; asking for a codec that is not there is reported each time.
