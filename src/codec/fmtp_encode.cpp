@@ -53,8 +53,7 @@ int dak_sdp_encode_a_equal_fmtp_line(int count, const uint32_t *present, uint32_
     for (int i = 0; i < count; i++) {
         if (present[i] != 1)
             continue;
-        if (!(is_started ? append_sdp_text(context, between)
-                         : append_head(context, scratch, payload_number)))
+        if (!(is_started ? append_sdp_text(context, between) : append_head(context, scratch, payload_number)))
             return fail();
         is_started = true;
         if (!append_parameter(context, scratch, field_text(names[i]), field_text(values[i])))

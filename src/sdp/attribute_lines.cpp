@@ -24,8 +24,8 @@ bool is_kept_whole(text_range attribute)
         *attribute.first == ' ' || attribute.last[-1] == ' ')
         return false;
     const char *colon = attribute.find(':');
-    return colon == nullptr || (colon != attribute.first && colon + 1 != attribute.last && colon[-1] != ' ' &&
-                                colon[1] != ' ');
+    return colon == nullptr ||
+           (colon != attribute.first && colon + 1 != attribute.last && colon[-1] != ' ' && colon[1] != ' ');
 }
 
 bool format_attribute(char (&text)[200], text_range name, const text_range *value)

@@ -57,12 +57,54 @@ constexpr uint32_t initials = [] {
     return letters;
 }();
 
-// The next line of the section; empty at the next m= line and at the end of the text.
-text_range next_line_of_section(const char *position, const char *end)
-{
-    const text_range line = next_line(position, end);
-    return line.begins_with("m=") ? text_range() : line;
-}
+// The lines of a section, which are walked twice: the second walk does not search for the first of them again.
+class section_lines {
+public:
+    section_lines(const char *start, const char *end) : start_(start), position_(start), end_(end) {}
+
+    // The next line; empty at the next m= line and at the end of the text.
+    text_range next()
+    {
+        text_range line(position_, position_);
+        if (walked_ < remembered_) {
+            line = {starts_[walked_], stops_[walked_]};
+            walked_++;
+        } else {
+            line = next_line(position_, end_);
+            if (line.begins_with("m="))
+                return {position_, position_};
+            remember(line);
+        }
+        position_ = line.last;
+        return line;
+    }
+
+    void rewind()
+    {
+        position_ = start_;
+        walked_ = 0;
+    }
+
+private:
+    static constexpr int most_remembered = 40;
+
+    void remember(text_range line)
+    {
+        if (remembered_ == most_remembered || line.empty())
+            return;
+        starts_[remembered_] = line.first;
+        stops_[remembered_] = line.last;
+        walked_ = ++remembered_;
+    }
+
+    const char *start_;
+    const char *position_;
+    const char *end_;
+    int walked_ = 0;
+    int remembered_ = 0;
+    const char *starts_[most_remembered];
+    const char *stops_[most_remembered];
+};
 
 void bind_rtcp(media_description *description, const char *line_start, const char *line_end)
 {
@@ -87,11 +129,10 @@ int bind_rtpmap(media_description *description, const char *line_start, const ch
 }
 
 // First pass: formats get their names before any fmtp line is read, wherever it stands.
-void read_bindings(media_description *description, const char *position, const char *end)
+void read_bindings(media_description *description, section_lines &lines)
 {
     int bound = -1; // only failures in front of the section's first success are logged and kept
-    for (text_range line = next_line_of_section(position, end); !line.empty();
-         line = next_line_of_section(line.last, end)) {
+    for (text_range line = lines.next(); !line.empty(); line = lines.next()) {
         if (line.begins_with("a=rtcp:"))
             bind_rtcp(description, line.first, line.last);
         if (!line.begins_with("a=rtpmap"))
@@ -142,9 +183,10 @@ int process_media_attribute(const char **position, const char *end, media_descri
 {
     if (position == nullptr || *position == nullptr || end == nullptr || description == nullptr)
         return fail();
-    read_bindings(description, *position, end);
-    for (text_range line = next_line_of_section(*position, end); !line.empty();
-         line = next_line_of_section(*position, end)) {
+    section_lines lines(*position, end);
+    read_bindings(description, lines);
+    lines.rewind();
+    for (text_range line = lines.next(); !line.empty(); line = lines.next()) {
         read_line(description, line);
         *position = line.last;
     }
