@@ -26,6 +26,8 @@ TEST_F(LineScan, each_skip_stops_at_its_own_characters_or_at_the_end)
     }
     const char *text = " x \n";
     for (const auto skip : skips) {
+        for (const char *alike : {"    ", "xxxx"})
+            EXPECT_LE(skip(alike, alike + 2), alike + 2) << "no further than asked, whatever follows";
         EXPECT_EQ(skip(nullptr, text), nullptr);
         EXPECT_EQ(skip(text + 3, text), text + 3) << "a range that ends before it starts";
     }

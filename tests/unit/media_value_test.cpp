@@ -67,6 +67,9 @@ TEST_F(MediaValue, the_first_slot_of_a_name_is_used)
                   log_only(1, "Unsupported parameter "));
     }
     EXPECT_EQ(values[0] + std::string(" ") + values[2] + " " + values[3], "unnamed second 8000");
+    std::fill_n(names[0], 200, 'n');
+    EXPECT_EQ(get(std::string(200, 'N').c_str(), 1), "unnamed") << "a name without its terminator";
+    EXPECT_EQ(get(std::string(201, 'N').c_str(), 1), "(null)");
 }
 
 } // namespace
