@@ -1,5 +1,5 @@
-// Memory that each call takes: "heap", operation, body, result, allocations, peak in bytes. And the sizes of the blocks
-// that a parsed container keeps: "kept", body, sizes with commas.
+// Memory that each call takes: "heap", operation, body, result, allocations, peak in bytes. And the sizes of
+// the blocks that a parsed container keeps: "kept", body, sizes with commas.
 
 #include <iostream>
 

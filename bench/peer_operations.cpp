@@ -33,8 +33,8 @@ std::size_t occurrences(std::string_view text, std::string_view part)
     return count;
 }
 
-// Whether every format and parameter of a text stands in the records. Parameters are those of a=fmtp lines, one
-// more than the line has semicolons.
+// Whether every format and parameter of a text stands in the records. An a=fmtp line has one parameter more
+// than semicolons.
 bool complete(const format_records &records, std::string_view text)
 {
     std::size_t parameters = 0;

@@ -1,5 +1,5 @@
-// The platform that benchmarks run on, apart from memory: its log takes lines and does nothing, so that what is
-// measured is the library.
+// The platform that benchmarks run on, apart from memory: its log takes lines and does nothing, so that what
+// is measured is the library.
 
 #include <arpa/inet.h>
 
