@@ -1,18 +1,13 @@
-// The platform that benchmarks run on: the C library's memory, and a log that takes its lines and does nothing,
-// so that what is measured is the library.
+// The platform that benchmarks run on, apart from memory: its log takes lines and does nothing, so that what
+// is measured is the library.
 
 #include <arpa/inet.h>
 
-#include <cstdlib>
 #include <cstring>
 
 #include "port/port.h"
 
 extern "C" {
-
-void *dak_malloc(size_t size) { return std::malloc(size); }
-
-void dak_free(void *block) { std::free(block); }
 
 char *dak_strtok(char *text, const char *delimiters, char **save) { return strtok_r(text, delimiters, save); }
 

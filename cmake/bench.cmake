@@ -1,8 +1,44 @@
 find_package(benchmark REQUIRED)
+find_package(PkgConfig)
 
 # The static library, so that counts have no detours through the dynamic linker.
-add_executable(linear_time_bench ${PROJECT_SOURCE_DIR}/bench/linear_time_bench.cpp
-    ${PROJECT_SOURCE_DIR}/bench/port_bench.cpp)
-daksdp_warnings(linear_time_bench)
+function(daksdp_bench name)
+    list(TRANSFORM ARGN PREPEND ${PROJECT_SOURCE_DIR}/bench/)
+    add_executable(${name} ${ARGN} ${PROJECT_SOURCE_DIR}/bench/port_bench.cpp)
+    daksdp_warnings(${name})
+    target_compile_definitions(${name} PRIVATE DAKSDP_EXAMPLES="${PROJECT_SOURCE_DIR}/examples")
+    target_link_libraries(${name} PRIVATE daksdp::static)
+endfunction()
+
+daksdp_bench(linear_time_bench linear_time_bench.cpp plain_memory.cpp)
 target_include_directories(linear_time_bench PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-target_link_libraries(linear_time_bench PRIVATE daksdp::static benchmark::benchmark)
+target_link_libraries(linear_time_bench PRIVATE benchmark::benchmark)
+
+daksdp_bench(speed_bench speed_bench.cpp operations.cpp peer_operations.cpp plain_memory.cpp)
+target_link_libraries(speed_bench PRIVATE benchmark::benchmark ${CMAKE_DL_LIBS})
+
+daksdp_bench(heap_bench heap_bench.cpp operations.cpp counted_memory.cpp)
+
+# No symbol is looked up during a call: that takes stack of its own.
+daksdp_bench(stack_bench stack_bench.cpp operations.cpp plain_memory.cpp)
+target_link_options(stack_bench PRIVATE LINKER:-z,now)
+
+# Other SDP libraries, each where it is installed.
+function(daksdp_peer name module)
+    if(PKG_CONFIG_FOUND)
+        pkg_check_modules(peer_${name} QUIET IMPORTED_TARGET ${module})
+    endif()
+    if(NOT peer_${name}_FOUND)
+        message(STATUS "daksdp: no comparison with ${module}, which is not installed")
+        return()
+    endif()
+    add_library(peer_${name} MODULE ${PROJECT_SOURCE_DIR}/bench/peer_${name}.cpp)
+    daksdp_warnings(peer_${name})
+    set_target_properties(peer_${name} PROPERTIES PREFIX "")
+    target_compile_definitions(peer_${name} PRIVATE PEER_VERSION="${peer_${name}_VERSION}")
+    target_link_libraries(peer_${name} PRIVATE PkgConfig::peer_${name})
+endfunction()
+
+daksdp_peer(gstreamer gstreamer-sdp-1.0)
+daksdp_peer(osip libosip2)
+daksdp_peer(sofia sofia-sip-ua)
