@@ -4,7 +4,7 @@
 #include "oa/result_code.h"
 #include "oa/session_generation.h"
 #include "oa/truncation.hpp"
-#include "sdp/context.h"
+#include "sdp/context.hpp"
 #include "sdp/encoder.h"
 #include "sdp/text_buffer.h"
 #include "util/bounded_text.hpp"
@@ -96,7 +96,7 @@ uint32_t dak_app_oa_generate_sdp(sdp_container *container, sdp_payload_buffer *b
             "dak_app_oa_generate_sdp: Invalid SDP Payload                                             length\n");
         return SDP_OA_INVALID_CONTENT;
     }
-    sdp_lib_context *document = init_sdp_lib();
+    sdp_lib_context *document = open_encoding_context();
     if (document == nullptr) {
         DAK_LOG(
             "dak_app_oa_generate_sdp: SDP context init                                              failed\n");
@@ -105,6 +105,6 @@ uint32_t dak_app_oa_generate_sdp(sdp_container *container, sdp_payload_buffer *b
     uint32_t result = build_document(document, container);
     if (result == SDP_OA_SUCCESS)
         result = encode_document(document, *buffer);
-    clean_sdp_lib(document);
+    close_context(document);
     return result;
 }

@@ -3,7 +3,7 @@
 #include "oa/media_parsing.h"
 #include "oa/result_code.h"
 #include "oa/session_parsing.h"
-#include "sdp/context.h"
+#include "sdp/context.hpp"
 #include "sdp/parser.h"
 #include "util/report.hpp"
 
@@ -75,13 +75,13 @@ uint32_t dak_app_oa_parse_sdp(sdp_container *container, const sdp_payload_buffer
         return SDP_OA_INVALID_CONTENT;
     }
     memset(container, 0, sizeof *container);
-    sdp_lib_context *document = init_sdp_lib();
+    sdp_lib_context *document = open_parsing_context();
     if (document == nullptr) {
         DAK_LOG(
             "dak_app_oa_parse_sdp:Failed to initialise                                           SDP context");
         return SDP_OA_BAD_PARAMETERS;
     }
     const uint32_t result = read_text(document, container, *buffer);
-    clean_sdp_lib(document);
+    close_context(document);
     return result;
 }

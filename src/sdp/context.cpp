@@ -1,6 +1,7 @@
 #include "sdp/context.h"
 
 #include "codec/registry.h"
+#include "sdp/context.hpp"
 #include "sdp/document.h"
 #include "sdp/text_buffer.h"
 #include "util/report.hpp"
@@ -34,6 +35,17 @@ int empty(sdp_info_container *document)
     return 1;
 }
 
+struct parsing_context {
+    sdp_lib_context context;
+    sdp_info_container document;
+};
+
+struct encoding_context {
+    sdp_lib_context context;
+    sdp_info_container document;
+    sdp_text_buffer text;
+};
+
 int initialise(sdp_lib_context *context)
 {
     init_sdp_encoder(context);
@@ -42,6 +54,34 @@ int initialise(sdp_lib_context *context)
 }
 
 } // namespace
+
+sdp_lib_context *dak::open_parsing_context()
+{
+    auto *block = allocate<parsing_context>();
+    if (block == nullptr)
+        return fail_null();
+    block->context = {nullptr, &block->document, nullptr};
+    empty(&block->document);
+    return &block->context;
+}
+
+sdp_lib_context *dak::open_encoding_context()
+{
+    auto *block = allocate<encoding_context>();
+    if (block == nullptr)
+        return fail_null();
+    block->context = {&block->document, nullptr, &block->text};
+    empty(&block->document);
+    init_sdp_encoder(&block->context);
+    return &block->context;
+}
+
+void dak::close_context(sdp_lib_context *context)
+{
+    const bool is_encoding = context->encoder_document != nullptr;
+    clean_sdp_info_container(is_encoding ? context->encoder_document : context->parser_document);
+    dak_free(context); // the first member of its block
+}
 
 sdp_lib_context *init_sdp_lib(void)
 {
