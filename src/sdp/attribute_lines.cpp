@@ -1,9 +1,9 @@
 #include "sdp/attribute_lines.h"
 
+#include "sdp/attribute_nodes.hpp"
 #include "sdp/document.hpp"
 #include "sdp/line_match.h"
 #include "sdp/text_buffer.hpp"
-#include "sdp/value_list.hpp"
 #include "util/bounded_text.hpp"
 #include "util/report.hpp"
 #include "util/scan.hpp"
@@ -42,7 +42,7 @@ bool format_attribute(char (&text)[200], text_range name, const text_range *valu
 // Appends an attribute "name:value", or "name" alone, as far as it fits; null when it does not, reported.
 session_value *append_attribute(media_description &description, text_range name, const text_range *value)
 {
-    session_value *node = append_value(description.attributes, description.attributes_tail);
+    session_value *node = append_attribute_node(description);
     if (node == nullptr)
         return nullptr;
     if (format_attribute(node->text, name, value))

@@ -8,6 +8,7 @@
 #include "attr/rtcp_fb.h"
 #include "codec/fmtp_parse.h"
 #include "sdp/attribute_lines.h"
+#include "sdp/attribute_nodes.hpp"
 #include "sdp/media_codecs.h"
 #include "sdp/media_values.h"
 #include "sdp/rtcp_address.h"
@@ -128,15 +129,19 @@ int bind_rtpmap(media_description *description, const char *line_start, const ch
                                                 encoding_name, clock_rate, encoding_param);
 }
 
-// First pass: formats get their names before any fmtp line is read, wherever it stands.
-void read_bindings(media_description *description, section_lines &lines)
+// First pass: formats get their names before any fmtp line is read, wherever it stands. Gives the number of lines
+// that the second pass keeps as attributes.
+uint32_t read_bindings(media_description *description, section_lines &lines)
 {
+    uint32_t kept = 0;
     int bound = -1; // only failures in front of the section's first success are logged and kept
     for (text_range line = lines.next(); !line.empty(); line = lines.next()) {
         if (line.begins_with("a=rtcp:"))
             bind_rtcp(description, line.first, line.last);
-        if (!line.begins_with("a=rtpmap"))
+        if (!line.begins_with("a=rtpmap")) {
+            kept += line.begins_with("a=");
             continue;
+        }
         const int index = bind_rtpmap(description, line.first, line.last);
         bound = index >= 0 ? index : bound;
         if (bound < 0) {
@@ -144,6 +149,7 @@ void read_bindings(media_description *description, section_lines &lines)
             parse_sdp_attribute(description, line.first, line.last);
         }
     }
+    return kept;
 }
 
 const attribute_reader *find_reader(text_range attribute)
@@ -184,7 +190,7 @@ int process_media_attribute(const char **position, const char *end, media_descri
     if (position == nullptr || *position == nullptr || end == nullptr || description == nullptr)
         return fail();
     section_lines lines(*position, end);
-    read_bindings(description, lines);
+    reserve_attributes(*description, read_bindings(description, lines));
     lines.rewind();
     for (text_range line = lines.next(); !line.empty(); line = lines.next()) {
         read_line(description, line);

@@ -1,7 +1,7 @@
 #include "sdp/media_description.h"
 
+#include "sdp/attribute_nodes.hpp"
 #include "sdp/media_description.hpp"
-#include "sdp/value_list.hpp"
 #include "util/bounded_text.hpp"
 #include "util/report.hpp"
 #include "util/text.h"
@@ -108,7 +108,7 @@ int clean_media_description(media_description *description)
 {
     if (description == nullptr)
         return fail();
-    free_values(description->attributes, description->attributes_tail);
+    free_attributes(*description);
     dak_free(description->codecs);
     dak_free(description);
     return 1;

@@ -83,6 +83,9 @@ typedef struct media_description {
     sdp_file_selector file_selectors[SDP_MAX_FILE_SELECTORS]; /**< a=file-selector */
     int32_t codec_capacity;                                   /**< private: elements of `codecs` */
     struct session_value *attributes_tail;                    /**< private: last of `attributes` */
+    struct session_value *attribute_block;                    /**< private: those allocated together; owned */
+    uint32_t attribute_block_size;                            /**< private: elements of `attribute_block` */
+    uint32_t attribute_block_used;                            /**< private: those that are linked */
 } media_description;
 
 #endif

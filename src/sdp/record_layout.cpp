@@ -31,7 +31,7 @@ static_assert(sizeof(sdp_text_buffer) == 3592);
 static_assert(sizeof(sdp_lib_context) == 3 * sizeof(void *));
 static_assert(sizeof(session_value) == by_word(204, 208));
 static_assert(sizeof(sdp_info_container) == by_word(5888, 6120));
-static_assert(sizeof(media_description) == by_word(12528, 12544));
+static_assert(sizeof(media_description) == by_word(12540, 12560));
 
 // Where the longer records continue behind a pointer.
 static_assert(offsetof(sdp_info_container, media_descriptions) == by_word(5712, 5768));

@@ -4,15 +4,20 @@
 
 namespace dak {
 
+void link_value(session_value *&head, session_value *&tail, session_value *node)
+{
+    node->text[0] = '\0';
+    node->next = nullptr;
+    (head == nullptr ? head : tail->next) = node;
+    tail = node;
+}
+
 session_value *append_value(session_value *&head, session_value *&tail)
 {
     auto *node = static_cast<session_value *>(dak_malloc(sizeof(session_value)));
     if (node == nullptr)
         return fail_null();
-    node->text[0] = '\0';
-    node->next = nullptr;
-    (head == nullptr ? head : tail->next) = node;
-    tail = node;
+    link_value(head, tail, node);
     return node;
 }
 

@@ -6,7 +6,10 @@
 
 namespace dak {
 
-// Links an empty node behind the last; null, reported, when memory runs out.
+// Links a node, emptied, behind the last.
+void link_value(session_value *&head, session_value *&tail, session_value *node);
+
+// Allocates a node and links it; null, reported, when memory runs out.
 session_value *append_value(session_value *&head, session_value *&tail);
 
 // Frees the nodes from one on.
