@@ -25,7 +25,7 @@ bool is_named(const media_info &info, const codec_kind &kind, int slot, text_ran
 {
     const slot_name &own = kind.slots[slot];
     return own.length() == name.length() && equal_ignoring_case(own.c_str(), name.first, own.length()) &&
-           equal_ignoring_case(info.param_name[slot], name);
+           (own.is_at(info.param_name[slot]) || equal_ignoring_case(info.param_name[slot], name));
 }
 
 int find_slot(text_range name, const media_info &info, const codec_kind &kind)

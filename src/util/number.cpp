@@ -10,14 +10,14 @@ namespace {
 
 constexpr uint32_t int32_max = 0x7FFFFFFF;
 
-// The value of a decimal or hexadecimal digit, or `base` or more for any other character.
-inline uint32_t digit_value(char c, uint32_t base)
+// The value of a decimal or hexadecimal digit, or the base or more for any other character.
+template <uint32_t Base> uint32_t digit_value(char c)
 {
     const auto digit = static_cast<uint32_t>(static_cast<unsigned char>(c) - '0');
-    if (digit < 10 || base == 10)
+    if (digit < 10 || Base == 10)
         return digit;
     const unsigned char letter = to_upper(c);
-    return letter >= 'A' && letter <= 'F' ? letter - 'A' + 10U : base;
+    return letter >= 'A' && letter <= 'F' ? letter - 'A' + 10U : Base;
 }
 
 // What a character that is no digit means to each mode: the end of the number, or a failure.
@@ -26,6 +26,46 @@ int end_of_number(char c, int mode)
     if (mode == DAK_ATOI_LENIENT)
         return c == '\n' || c == ' ' || c == '\r' || c == '.';
     return mode == DAK_ATOI_HEX ? fail() : 0;
+}
+
+// Reads up to `end`; `number` keeps what stood in front of a failure.
+template <uint32_t Base> int read_digits(const char *text, const char *end, int mode, uint32_t &number)
+{
+    uint64_t value = 0;
+    int result = 1;
+    for (; text != end; text++) {
+        const uint32_t digit = digit_value<Base>(*text);
+        if (digit >= Base) {
+            result = end_of_number(*text, mode);
+            break;
+        }
+        if (value * Base + digit > int32_max) {
+            result = fail();
+            break;
+        }
+        value = value * Base + digit;
+    }
+    number = static_cast<uint32_t>(value);
+    return result;
+}
+
+// Scans the digits behind a sign. Overflow stops at `limit`; true tells of it.
+template <uint32_t Base> bool scan_digits(text_range text, uint64_t limit, scanned_number &number)
+{
+    bool overflows = false;
+    for (; !text.empty(); text.first++) {
+        const uint32_t digit = digit_value<Base>(*text.first);
+        if (digit >= Base)
+            break;
+        number.is_read = true;
+        // A further digit of either base can pass a limit only from here on.
+        if (number.bits > UINT64_MAX / 32)
+            overflows = overflows || number.bits > (limit - digit) / Base;
+        number.bits = number.bits * Base + digit;
+    }
+    if (overflows)
+        number.bits = limit;
+    return overflows;
 }
 
 } // namespace
@@ -39,24 +79,8 @@ int dak_atoi(const char *text, int mode, uint32_t length, uint32_t *out)
         return 1;
     if (text == nullptr)
         return fail();
-    const uint32_t base = mode == DAK_ATOI_HEX ? 16 : 10;
-    uint32_t number = 0;
-    int result = 1;
-    for (const char *end = text + length; text != end; text++) {
-        const uint32_t digit = digit_value(*text, base);
-        if (digit >= base) {
-            result = end_of_number(*text, mode);
-            break;
-        }
-        const uint64_t longer = uint64_t{number} * base + digit;
-        if (longer > int32_max) {
-            result = fail();
-            break;
-        }
-        number = static_cast<uint32_t>(longer);
-    }
-    *out = number;
-    return result;
+    return mode == DAK_ATOI_HEX ? read_digits<16>(text, text + length, mode, *out)
+                                : read_digits<10>(text, text + length, mode, *out);
 }
 
 int dak_atoi64(const char *text, uint32_t length, int64_t *out)
@@ -72,7 +96,7 @@ int dak_atoi64(const char *text, uint32_t length, int64_t *out)
     const uint64_t limit = static_cast<uint64_t>(INT64_MAX) + (negative ? 1 : 0);
     uint64_t magnitude = 0;
     for (uint32_t i = negative ? 1 : 0; i < length && !is_white(text[i]); i++) {
-        const uint32_t digit = digit_value(text[i], 10);
+        const uint32_t digit = digit_value<10>(text[i]);
         if (digit >= 10 || magnitude > UINT64_MAX / 10)
             return 0;
         magnitude = magnitude * 10 + digit;
@@ -114,19 +138,8 @@ scanned_number dak::scan_number(text_range text, size_t width, uint32_t base, bo
         text.first++;
     const uint64_t limit = !is_signed ? UINT64_MAX : static_cast<uint64_t>(INT64_MAX) + (negative ? 1 : 0);
     scanned_number number;
-    bool overflows = false;
-    for (; !text.empty(); text.first++) {
-        const uint32_t digit = digit_value(*text.first, base);
-        if (digit >= base)
-            break;
-        number.is_read = true;
-        // A further digit of either base can pass a limit only from here on.
-        if (number.bits > UINT64_MAX / 32)
-            overflows = overflows || number.bits > (limit - digit) / base;
-        number.bits = number.bits * base + digit;
-    }
-    if (overflows)
-        number.bits = limit;
+    const bool overflows =
+        base == 16 ? scan_digits<16>(text, limit, number) : scan_digits<10>(text, limit, number);
     if (negative && (is_signed || !overflows))
         number.bits = 0 - number.bits;
     return number;

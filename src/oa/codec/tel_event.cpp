@@ -1,6 +1,6 @@
 #include "oa/codec/tel_event.h"
 
-#include "codec/media_value.h"
+#include "oa/codec/fmtp_reader.hpp"
 #include "oa/codec/fmtp_setter.hpp"
 #include "oa/result_code.h"
 #include "oa/truncation.hpp"
@@ -98,7 +98,7 @@ uint32_t dak_app_sdp_decode_tel_event(media_description *md, uint16_t codec_inde
     tel_event = {};
     tel_event.fmtp_present = 1;
     tel_event.tel_event_valid = 1;
-    const char *text = get_media_value(md, codec_index, "events");
+    const char *text = parameter_reader(md, codec_index).text("events");
     if (text == nullptr)
         return SDP_OA_SUCCESS;
     tel_event.events_present = 1;
