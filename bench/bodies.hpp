@@ -12,7 +12,7 @@
 struct body {
     std::string name;
     std::string text;
-    std::string answer; // empty where examples/ has no answer to it
+    std::string answer; // where examples/ has none, the offer answers itself
 };
 
 inline std::string example(const std::string &name)
@@ -26,11 +26,11 @@ inline std::string example(const std::string &name)
 
 inline std::vector<body> measured_bodies()
 {
-    return {{"small_audio_offer", example("small_audio_offer"), ""},
+    return {{"small_audio_offer", example("small_audio_offer"), example("small_audio_offer")},
             {"volte_offer", example("volte_offer"), example("volte_answer")},
             {"vilte_offer", example("vilte_offer"), example("vilte_answer")},
-            {"msrp_file_transfer", example("msrp_file_transfer"), ""},
-            {"many_media", example("many_media"), ""}};
+            {"msrp_file_transfer", example("msrp_file_transfer"), example("msrp_file_transfer")},
+            {"many_media", example("many_media"), example("many_media")}};
 }
 
 #endif

@@ -11,8 +11,6 @@ namespace {
 void print_use(const operation &operation, const body &body)
 {
     const call prepared = operation.prepare(body);
-    if (!prepared)
-        return;
     start_counting();
     const uint32_t result = prepared();
     const memory_use used = counted();

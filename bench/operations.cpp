@@ -67,8 +67,6 @@ call validate_offer(const body &body)
 
 call validate_answer(const body &body)
 {
-    if (body.answer.empty())
-        return {};
     return [offer = parsed(body.text), answer = parsed(body.answer)] {
         return dak_app_oa_validate_answer(answer.get(), offer.get());
     };
@@ -104,8 +102,6 @@ std::shared_ptr<sdp_container> parsed(const std::string &text)
 
 call parse_both(const body &body)
 {
-    if (body.answer.empty())
-        return {};
     return [offer = body.text, answer = body.answer]() mutable {
         return parse_and_release(answer) | parse_and_release(offer);
     };

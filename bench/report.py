@@ -16,6 +16,7 @@ import sys
 OWN = "daksdp"
 EXAMPLES = pathlib.Path(__file__).resolve().parent.parent / "examples"
 BODIES = ["small_audio_offer", "volte_offer", "vilte_offer", "msrp_file_transfer", "many_media"]
+SMALLEST = "MinSizeRel"
 OPERATIONS = ["parse", "generate", "round trip", "validate offer", "validate answer", "duplicate"]
 PEERS = {"GStreamer": "libgstreamer-plugins-base1.0-dev", "oSIP": "libosip2-dev", "Sofia-SIP": "libsofia-sip-ua-dev"}
 LARGEST_FRAMES = 3
@@ -108,12 +109,8 @@ def print_calls(results):
     print("## Calls\n")
     table(["call", "body, bytes", f"{OWN}, µs", *results.peers(), "to the fastest", "instructions", "allocations",
            "peak heap, bytes"],
-          [call_row(results, operation, body) for operation in OPERATIONS for body in BODIES
-           if (operation, body) in results.heap])
-    for operation in OPERATIONS:
-        left_out = [body for body in BODIES if (operation, body) not in results.heap]
-        if left_out:
-            print(f"No row of \"{operation}\" for {', '.join(left_out)}: examples/ has no answer to them.\n")
+          [call_row(results, operation, body) for operation in OPERATIONS for body in BODIES])
+    print("Where examples/ has no answer, \"validate answer\" takes the offer as its own answer.\n")
     for (operation, body), (code, *_) in results.heap.items():
         if code != 0:
             print(f"\"{operation}\" refuses {body} with code {code}: the row is what it takes to find that.\n")
@@ -171,50 +168,49 @@ def print_sizes(results):
             print(f"{name} is left out: {reason}.\n")
 
 
-Goal = collections.namedtuple("Goal", "text measured met timed")
+Goal = collections.namedtuple("Goal", "text measured met")
 
 
 def peer_goal(results, operation, bodies, most, text):
     ratios = [results.to_fastest(operation, body) for body in bodies]
     if None in ratios:
-        return Goal(text, "no other library is installed", None, True)
-    return Goal(text, ", ".join(f"{ratio:.2f}" for ratio in ratios), max(ratios) < most, True)
+        return Goal(text, "no other library is installed", None)
+    return Goal(text, ", ".join(f"{ratio:.2f}" for ratio in ratios), max(ratios) < most)
 
 
 def answer_goal(results):
-    bodies = [body for body in BODIES if ("validate answer", body) in results.heap]
-    shares = [results.time("validate answer", body) / results.time("parse both", body) for body in bodies]
+    shares = [results.time("validate answer", body) / results.time("parse both", body) for body in BODIES]
     return Goal("validating an answer takes less than a fifth of parsing both bodies",
-                ", ".join(f"{share:.3f}" for share in shares), max(shares) < 1 / 5, True)
+                ", ".join(f"{share:.3f}" for share in shares), max(shares) < 1 / 5)
 
 
 def floor_goal(results):
     _, _, parse, allowed = floor(results)
     return Goal("parsing many_media takes at most twice the zeroing and the scan",
-                f"{microseconds(parse)} of {microseconds(allowed)} µs", parse <= allowed, True)
+                f"{microseconds(parse)} of {microseconds(allowed)} µs", parse <= allowed)
 
 
 def count_goal(results, operation, most):
     count = results.instructions[f"{operation}/volte_offer/{OWN}"]
-    return Goal(f"{operation} of volte_offer takes at most {most:,} instructions", f"{count:,}", count <= most, False)
+    return Goal(f"{operation} of volte_offer takes at most {most:,} instructions", f"{count:,}", count <= most)
 
 
 def stack_goals(results):
     depth = max(depth for _, depth, _ in results.stack)
     frame, _, _, _ = results.frames[0]
     unbounded = [function for _, _, function, kind in results.frames if kind == "dynamic"]
-    yield Goal(f"a call takes at most {STACK_LIMIT:,} bytes of stack", f"{depth:,}", depth <= STACK_LIMIT, False)
+    yield Goal(f"a call takes at most {STACK_LIMIT:,} bytes of stack", f"{depth:,}", depth <= STACK_LIMIT)
     yield Goal(f"no frame has more than {STACK_LIMIT:,} bytes, and each has a bound",
-               f"{frame:,}; {len(unbounded)} without bound", frame <= STACK_LIMIT and not unbounded, False)
+               f"{frame:,}; {len(unbounded)} without bound", frame <= STACK_LIMIT and not unbounded)
 
 
 def size_goal(results, name, most):
-    text = f"the library for {name} has at most {most} KB ({results.build})"
+    text = f"the library for {name} has at most {most} KB ({SMALLEST})"
     sizes = {(row[0], row[1]): row[2] for row in results.sizes}
-    if (name, results.build) not in sizes:
-        return Goal(text, "not built", None, False)
-    size = int(sizes[name, results.build])
-    return Goal(text, f"{size / KB:.1f} KB", size <= most * KB, False)
+    if (name, SMALLEST) not in sizes:
+        return Goal(text, "not built", None)
+    size = int(sizes[name, SMALLEST])
+    return Goal(text, f"{size / KB:.1f} KB", size <= most * KB)
 
 
 def goals(results):
@@ -243,9 +239,8 @@ def main(directory, objects, build):
     print_floor(results)
     print_stack(results)
     print_sizes(results)
-    judged = goals(results)
-    print_goals(judged)
-    return any(goal.met is False and not goal.timed for goal in judged)
+    print_goals(goals(results))
+    return any(not goal.met for goal in stack_goals(results))
 
 
 if __name__ == "__main__":

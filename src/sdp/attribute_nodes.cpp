@@ -19,8 +19,13 @@ void reserve_attributes(media_description &description, uint32_t count)
 {
     if (count == 0 || description.attribute_block != nullptr)
         return;
-    description.attribute_block = static_cast<session_value *>(dak_malloc(count * sizeof(session_value)));
-    description.attribute_block_size = description.attribute_block != nullptr ? count : 0;
+    auto *block = static_cast<session_value *>(dak_malloc(count * sizeof(session_value)));
+    if (block == nullptr) {
+        dak_assert_failed();
+        return;
+    }
+    description.attribute_block = block;
+    description.attribute_block_size = count;
     description.attribute_block_used = 0;
 }
 

@@ -83,51 +83,6 @@ TEST_F(RoundTrip, nothing_else_is_lost)
     }
 }
 
-// The results of calls with each of their allocations failing alone, the first log line of each call, repetitions
-// left out, and the results with all that follow failing too.
-struct failures {
-    std::string once, log, on;
-};
-template <class Call> failures failing(Call call)
-{
-    std::string results, log, last;
-    const std::size_t count = sweep_allocations([&] {
-        const outcome one = call();
-        const std::string line = one.log.substr(0, one.log.find('|'));
-        const bool is_once = results.find('$') == results.npos,
-                   has_failed = standin::failed_allocations() != 0;
-        if (is_once && has_failed && line != last)
-            log += (log.empty() ? "" : "|") + line;
-        last = line;
-        results += has_failed ? std::to_string(one.result) : "$";
-    });
-    return {results.substr(0, count), log, results.substr(count + 1, count)};
-}
-
-// Parts of a body that cannot be stored may be missing from what a parse or a generation gives.
-TEST_F(RoundTrip, memory_may_run_out_at_any_allocation)
-{
-    std::string call;
-    for_each_case(file, "whole", [&](const test_case &each) {
-        expect_returned(each);
-        call = each.lines("sdp");
-    });
-    body whole("", call);
-    const auto generated = [&] { return generate(whole.session); };
-    const auto parsed = [&] {
-        sdp_container container;
-        const outcome all = seen([&] { return parse_into(container, call); });
-        EXPECT_EQ(container.mlines == nullptr, all.result != 0);
-        EXPECT_EQ(container.num_mlines, all.result == 0 ? 3 : 0);
-        dak_app_oa_cleanup_sdp_container(&container);
-        return all;
-    };
-    for_each_case(file, "memory", [&](const test_case &each) {
-        const failures all = each.label == "generating" ? failing(generated) : failing(parsed);
-        each.expect({0, all.once + " " + all.on, all.log}, each["once"] + " " + each["on"]);
-    });
-}
-
 // What comes back from any example comes back again.
 TEST_F(RoundTrip, the_examples)
 {
