@@ -13,8 +13,8 @@
 #include "sdp/media_values.h"
 #include "sdp/rtcp_address.h"
 #include "sdp/rtpmap.h"
+#include "sdp/section_lines.hpp"
 #include "util/report.hpp"
-#include "util/scan.hpp"
 
 using namespace dak;
 
@@ -26,8 +26,8 @@ struct attribute_reader {
     const char *failure;
 };
 
-// The first name that begins an attribute decides; those of most lines come first. Some failures are logged under another attribute's name; log
-// filters match on these texts.
+// The first name that begins an attribute decides; those of most lines come first. Some failures are logged under
+// another attribute's name; log filters match on these texts.
 constexpr attribute_reader attribute_readers[] = {
     {"fmtp", parse_a_equal_fmtp_line, "parse fmtp err "},
     {"curr", parse_a_equal_pcd_line,
@@ -57,55 +57,6 @@ constexpr uint32_t initials = [] {
         letters |= letter_bit(*reader.name);
     return letters;
 }();
-
-// The lines of a section, which are walked twice: the second walk does not search for the first of them again.
-class section_lines {
-public:
-    section_lines(const char *start, const char *end) : start_(start), position_(start), end_(end) {}
-
-    // The next line; empty at the next m= line and at the end of the text.
-    text_range next()
-    {
-        text_range line(position_, position_);
-        if (walked_ < remembered_) {
-            line = {starts_[walked_], stops_[walked_]};
-            walked_++;
-        } else {
-            line = next_line(position_, end_);
-            if (line.begins_with("m="))
-                return {position_, position_};
-            remember(line);
-        }
-        position_ = line.last;
-        return line;
-    }
-
-    void rewind()
-    {
-        position_ = start_;
-        walked_ = 0;
-    }
-
-private:
-    static constexpr int most_remembered = 40;
-
-    void remember(text_range line)
-    {
-        if (remembered_ == most_remembered || line.empty())
-            return;
-        starts_[remembered_] = line.first;
-        stops_[remembered_] = line.last;
-        walked_ = ++remembered_;
-    }
-
-    const char *start_;
-    const char *position_;
-    const char *end_;
-    int walked_ = 0;
-    int remembered_ = 0;
-    const char *starts_[most_remembered];
-    const char *stops_[most_remembered];
-};
 
 void bind_rtcp(media_description *description, const char *line_start, const char *line_end)
 {
