@@ -44,6 +44,18 @@ TEST_F(Parser, line_ends_blank_lines_and_indentation_make_no_difference)
         }
 }
 
+// Each reader gives 1 and leaves the position where the next one begins.
+TEST_F(Parser, session_lines_end_where_the_first_section_begins)
+{
+    const context_ptr context(init_sdp_lib());
+    const heap_text text("v=0\ns=-\nm=audio 9 RTP/AVP 0\n");
+    const char *position = text.begin();
+    EXPECT_EQ(parse_session_info(context.get(), &position, text.end()), 1);
+    EXPECT_EQ(position - text.begin(), 7);
+    EXPECT_EQ(parse_media_description(context.get(), position, text.end()), 1);
+    EXPECT_EQ(one_line(dump(context.get(), SDP_PARSER_DOCUMENT)), "v=0; s=-; m=audio 9/1 RTP/AVP; 0");
+}
+
 TEST_F(Parser, lines_are_known_by_how_they_begin)
 {
     EXPECT_EQ(find_tag("a=fmtp", "a=fmtp:97"), 1);
