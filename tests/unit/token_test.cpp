@@ -49,6 +49,9 @@ TEST_F(Token, a_value_is_found_behind_its_name)
         found.text = value;
         EXPECT_EQ(found, table::expected(row));
     });
+    char value[256] = "-";
+    EXPECT_EQ(find_type_return_value("\0x", "", "", value), 1);
+    EXPECT_STREQ(value, "") << "nothing is read behind the line";
 }
 
 } // namespace
