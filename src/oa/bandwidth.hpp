@@ -74,6 +74,16 @@ inline uint32_t read_bandwidth_entry(text_range value, const bandwidth_reader &r
     return SDP_OA_SUCCESS;
 }
 
+// The first entry without a line, or null.
+inline sdp_bandwidth_entry *free_entry(sdp_bandwidth &bandwidth)
+{
+    for (sdp_bandwidth_entry &entry : bandwidth.entries) {
+        if (entry.present == 0)
+            return &entry;
+    }
+    return nullptr;
+}
+
 // Reads the lines that `value_at(k)` gives, up to the fifth or to one that ends the reading.
 template <typename ValueAt>
 uint32_t parse_bandwidth(sdp_bandwidth &bandwidth, const bandwidth_reader &reader, ValueAt value_at)
@@ -90,9 +100,13 @@ uint32_t parse_bandwidth(sdp_bandwidth &bandwidth, const bandwidth_reader &reade
         const text_range text(value);
         if (text.length() >= size)
             return fail_as_too_long(size);
+        sdp_bandwidth_entry *entry = free_entry(bandwidth);
+        if (entry == nullptr) {
+            DAK_LOG("dak_app_oa_parse_media_bandwidth: too many modifiers \n");
+            return SDP_OA_INVALID_CONTENT;
+        }
         bool is_last = false;
-        // Every line that was read fills an entry, so that the k-th is the first free one.
-        const uint32_t result = read_bandwidth_entry(text, reader, bandwidth.entries[k], is_last);
+        const uint32_t result = read_bandwidth_entry(text, reader, *entry, is_last);
         if (is_last)
             return result;
     }

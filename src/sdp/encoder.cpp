@@ -191,7 +191,11 @@ int dak_sdp_encode_media_descriptions(sdp_lib_context *context)
 {
     if (context == nullptr)
         return fail();
-    const int count = get_number_of_media_description(context, SDP_ENCODER_DOCUMENT);
+    int count = get_number_of_media_description(context, SDP_ENCODER_DOCUMENT);
+    if (count > SDP_MAX_MEDIA_DESCRIPTIONS) {
+        DAK_LOG("Cap num of media %d \n", count);
+        count = SDP_MAX_MEDIA_DESCRIPTIONS;
+    }
     for (int i = 0; i < count; i++) {
         if (!dak_sdp_encode_media_description_by_index(context, i))
             return fail();
