@@ -111,7 +111,7 @@
 
 namespace dak {
 
-// Of a length that can stand for a name in a word of bits.
+// Readers keep the lengths of names as bits of a 32-bit word.
 inline constexpr size_t longest_name = 30;
 using slot_name = fixed_text<longest_name + 1>;
 

@@ -28,15 +28,16 @@ int end_of_number(char c, int mode)
     return mode == DAK_ATOI_HEX ? fail() : 0;
 }
 
-// Reads up to `end`; `number` keeps what stood in front of a failure.
-template <uint32_t Base> int read_digits(const char *text, const char *end, int mode, uint32_t &number)
+// Reads so many characters; `number` keeps what stood in front of a failure. They are counted, since a length may
+// be beyond all memory while the number ends in front of it.
+template <uint32_t Base> int read_digits(const char *text, uint32_t length, int mode, uint32_t &number)
 {
     uint64_t value = 0;
     int result = 1;
-    for (; text != end; text++) {
-        const uint32_t digit = digit_value<Base>(*text);
+    for (uint32_t i = 0; i < length; i++) {
+        const uint32_t digit = digit_value<Base>(text[i]);
         if (digit >= Base) {
-            result = end_of_number(*text, mode);
+            result = end_of_number(text[i], mode);
             break;
         }
         if (value * Base + digit > int32_max) {
@@ -79,8 +80,8 @@ int dak_atoi(const char *text, int mode, uint32_t length, uint32_t *out)
         return 1;
     if (text == nullptr)
         return fail();
-    return mode == DAK_ATOI_HEX ? read_digits<16>(text, text + length, mode, *out)
-                                : read_digits<10>(text, text + length, mode, *out);
+    return mode == DAK_ATOI_HEX ? read_digits<16>(text, length, mode, *out)
+                                : read_digits<10>(text, length, mode, *out);
 }
 
 int dak_atoi64(const char *text, uint32_t length, int64_t *out)

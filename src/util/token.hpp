@@ -52,7 +52,8 @@ inline bool take_token(const char *position, const char *end, const char *delimi
 inline bool take_token(const char *base, ptrdiff_t offset, const char *end, const char *delimiter,
                        text_range &token)
 {
-    return base != nullptr && offset < end - base && take_token(base + offset, end, delimiter, token);
+    return base != nullptr && end != nullptr && offset < end - base &&
+           take_token(base + offset, end, delimiter, token);
 }
 
 // Whether a terminated text begins with a name that has no NUL.
