@@ -109,34 +109,33 @@ template <class Use> void for_each_format(sdp_lib_context *document, Use use)
     }
 }
 
-call decode_parameters(const body &body)
+// Makes a call of each payload format's decoder or encoder.
+call use_parameters(const body &body, void (*use)(media_description *, uint16_t, const sdp_mime_entry &))
 {
     const auto document = context();
     read(document.get(), body.text);
-    return [document] {
-        static sdp_codec_params block;
-        for_each_format(document.get(),
-                        [](media_description *media, uint16_t index, const sdp_mime_entry &codec) {
-                            codec.decode(media, index, &block);
-                        });
+    return [document, use] {
+        for_each_format(document.get(), use);
         return 0;
     };
 }
 
+call decode_parameters(const body &body)
+{
+    return use_parameters(body, [](media_description *media, uint16_t index, const sdp_mime_entry &codec) {
+        static sdp_codec_params block;
+        codec.decode(media, index, &block);
+    });
+}
+
 call encode_parameters(const body &body)
 {
-    const auto document = context();
-    read(document.get(), body.text);
-    return [document] {
+    return use_parameters(body, [](media_description *media, uint16_t index, const sdp_mime_entry &codec) {
         static sdp_codec_params block;
-        for_each_format(document.get(),
-                        [](media_description *media, uint16_t index, const sdp_mime_entry &codec) {
-                            block = {};
-                            codec.decode(media, index, &block);
-                            codec.encode(media, index, &block);
-                        });
-        return 0;
-    };
+        block = {};
+        codec.decode(media, index, &block);
+        codec.encode(media, index, &block);
+    });
 }
 
 call read_fmtp_lines(const body &body)
