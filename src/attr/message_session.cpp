@@ -12,9 +12,11 @@ namespace {
 template <typename Record>
 void read_present(Record *out, const media_description *description, Record media_description::*field)
 {
-    read_record(out, description, field);
-    if (out != nullptr && static_cast<uint8_t>(out->present) != 1)
+    const bool is_absent = description != nullptr && static_cast<uint8_t>((description->*field).present) != 1;
+    if (out != nullptr && is_absent)
         *out = {};
+    else
+        read_record(out, description, field);
 }
 
 } // namespace

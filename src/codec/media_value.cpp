@@ -19,13 +19,10 @@ int find_slot(text_range name, char (*names)[200], int count)
     return no_slot;
 }
 
-// Whether a slot of a record bears a name. The kind's own name for it is looked at first, as its length is known;
-// the record's may have been dropped.
+// Whether a slot of a record bears a name. That is the kind's, whose length is known, unless it was dropped.
 bool is_named(const media_info &info, const codec_kind &kind, int slot, text_range name)
 {
-    const slot_name &own = kind.slots[slot];
-    return own.length() == name.length() && equal_ignoring_case(own.c_str(), name.first, own.length()) &&
-           (own.is_at(info.param_name[slot]) || equal_ignoring_case(info.param_name[slot], name));
+    return kind.slots[slot].length() == name.length() && equal_ignoring_case(info.param_name[slot], name);
 }
 
 int find_slot(text_range name, const media_info &info, const codec_kind &kind)

@@ -16,7 +16,13 @@ constexpr int no_slot = -1;
 bool is_tagged(const media_description &description, int slot, text_range text)
 {
     const char(&tag)[200] = description.media_value_tags[slot];
-    return (text.empty() || *tag == *text.first) && text.begins_with(field_text(tag));
+    size_t length = 0;
+    while (length < sizeof tag && tag[length] != '\0') {
+        if (length == text.length() || text.first[length] != tag[length])
+            return false;
+        length++;
+    }
+    return true;
 }
 
 // The first free slot that `matches`, or no_slot.

@@ -24,9 +24,6 @@ public:
     // Copies all of the room, which takes two instructions where a copy of the length is a call.
     void copy_to(char *destination) const { memcpy(destination, chars_, Capacity); }
 
-    // Whether a field still holds what copy_to() left there.
-    bool is_at(const char *field) const { return memcmp(field, chars_, Capacity) == 0; }
-
 private:
     char chars_[Capacity] = {};
     uint8_t length_;

@@ -51,7 +51,10 @@ struct text_range {
     {
         return prefix.length() <= length() && memcmp(first, prefix.first, prefix.length()) == 0;
     }
-    bool equals(text_range other) const { return other.length() == length() && begins_with(other); }
+    bool equals(text_range other) const
+    {
+        return other.length() == length() && (empty() || *first == *other.first) && begins_with(other);
+    }
 
     // The same with terminated texts. A literal is compared as a few words; other texts mostly differ within
     // their first characters.
