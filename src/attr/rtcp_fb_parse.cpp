@@ -4,7 +4,7 @@
 
 #include "attr/attribute_line.hpp"
 #include "sdp/codec_access.hpp"
-#include "util/number.h"
+#include "util/number.hpp"
 #include "util/report.hpp"
 #include "util/token.hpp"
 
@@ -125,8 +125,7 @@ outcome store_at_payload(media_description &description, uint32_t payload_number
 
 bool read_payload_number(text_range word, uint32_t &number)
 {
-    return !word.empty() &&
-           dak_atoi(word.first, DAK_ATOI_LENIENT, static_cast<uint32_t>(word.length()), &number);
+    return !word.empty() && read_lenient(word, number);
 }
 
 // Stores the line under its first number and the numbers that follow it; the first word that is no number, or

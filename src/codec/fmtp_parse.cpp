@@ -3,7 +3,7 @@
 #include "codec/parameters.hpp"
 #include "sdp/codec_access.hpp"
 #include "util/bounded_text.hpp"
-#include "util/number.h"
+#include "util/number.hpp"
 #include "util/token.hpp"
 
 using namespace dak;
@@ -48,7 +48,7 @@ bool read_head(const media_description &description, text_range text, fmtp_line 
     if (head.parts != 2)
         return fail();
     uint32_t number = 0;
-    if (!dak_atoi(head.value.first, DAK_ATOI_LENIENT, static_cast<uint32_t>(head.value.length()), &number))
+    if (!read_lenient(head.value, number))
         return false;
     const int index = find_payload(description, number);
     if (!has_codec(description, index))

@@ -15,7 +15,7 @@
 #include "sdp/media_description.h"
 #include "sdp/media_values.h"
 #include "sdp/rtcp_address.h"
-#include "util/number.h"
+#include "util/number.hpp"
 
 using namespace dak;
 
@@ -106,8 +106,7 @@ void read_numbers(const attribute_finder &attributes, sdp_media_line &mline)
         uint32_t number = 0;
         if (!attributes.find(attribute.name, value))
             continue;
-        mline.*attribute.is_present = static_cast<uint8_t>(
-            dak_atoi(value, DAK_ATOI_LENIENT, static_cast<uint32_t>(strlen(value)), &number));
+        mline.*attribute.is_present = static_cast<uint8_t>(read_lenient(value, number));
         if (mline.*attribute.is_present)
             mline.*attribute.value = static_cast<uint16_t>(number);
         else if (attribute.failure != nullptr)

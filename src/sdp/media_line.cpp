@@ -8,7 +8,7 @@
 #include "sdp/media_description.h"
 #include "sdp/media_description.hpp"
 #include "util/line_scan.h"
-#include "util/number.h"
+#include "util/number.hpp"
 #include "util/report.hpp"
 #include "util/text_range.hpp"
 #include "util/token.hpp"
@@ -27,11 +27,7 @@ text_range take_word(const char *&position, const char *end)
     return token;
 }
 
-int read_number(text_range text, uint32_t *number)
-{
-    return !text.empty() &&
-           dak_atoi(text.first, DAK_ATOI_LENIENT, static_cast<uint32_t>(text.length()), number);
-}
+bool read_number(text_range text, uint32_t &number) { return !text.empty() && read_lenient(text, number); }
 
 // Reads "port" or "port/count".
 int read_ports(media_description *description, text_range token)
@@ -39,7 +35,7 @@ int read_ports(media_description *description, text_range token)
     uint32_t count = 1;
     const bool has_count = token.find('/') != nullptr;
     const text_range port = token.take_until('/');
-    if (!read_number(port, &description->media_port) || (has_count && !read_number(token, &count)))
+    if (!read_number(port, description->media_port) || (has_count && !read_number(token, count)))
         return 0;
     return set_number_of_media_port(description, count);
 }
@@ -47,7 +43,7 @@ int read_ports(media_description *description, text_range token)
 int read_format(media_description *description, text_range token)
 {
     uint32_t payload_number = 0;
-    if (read_number(token, &payload_number))
+    if (read_number(token, payload_number))
         return set_payload_number(description, static_cast<int32_t>(payload_number));
     return set_media_format(description, token.first, static_cast<uint32_t>(token.length()));
 }

@@ -1,20 +1,11 @@
 #include "sdp/rtpmap.h"
 
-#include "util/number.h"
+#include "util/number.hpp"
 #include "util/report.hpp"
 #include "util/text.h"
 #include "util/token.hpp"
 
 using namespace dak;
-
-namespace {
-
-int read_number(text_range text, uint32_t *number)
-{
-    return dak_atoi(text.first, DAK_ATOI_LENIENT, static_cast<uint32_t>(text.length()), number);
-}
-
-} // namespace
 
 int parse_a_euqal_rtpmap(const char *line_start, const char *line_end, uint32_t *payload_number,
                          char *encoding_name, uint32_t *clock_rate, uint32_t *encoding_param)
@@ -33,7 +24,7 @@ int get_media_payload_number(const char **position, const char *end, uint32_t *n
     if (position == nullptr || number == nullptr)
         return fail();
     text_range token(*position, *position);
-    if (!take_token(*position, 0, end, nullptr, token) || !read_number(token, number))
+    if (!take_token(*position, 0, end, nullptr, token) || !read_lenient(token, *number))
         return fail();
     *position = token.last + 1;
     return 1;
@@ -53,10 +44,10 @@ int get_media_encoding_name_clock_rate_encoding_parameter(const char *position, 
         return fail();
     // A rate without a slash behind it runs through `end`, where the text may already be over.
     token.last = token.last < end ? token.last : end;
-    if (!read_number(token, clock_rate))
+    if (!read_lenient(token, *clock_rate))
         return fail();
     *encoding_param = 1;
     if (!take_token(token.last, 1, end, nullptr, token))
         return 1;
-    return read_number(token, encoding_param) ? 1 : fail();
+    return read_lenient(token, *encoding_param) ? 1 : fail();
 }

@@ -2,11 +2,26 @@
 #ifndef DAKSDP_UTIL_NUMBER_HPP
 #define DAKSDP_UTIL_NUMBER_HPP
 
+#include "util/number.h"
 #include "util/text_range.hpp"
 
 #include <stdint.h>
 
 namespace dak {
+
+// dak_atoi() of a range in its lenient mode. Nearly all of them are a few digits and nothing else.
+inline int read_lenient(text_range text, uint32_t &number)
+{
+    constexpr size_t safe_digits = 9;
+    uint32_t value = 0;
+    const char *place = text.first;
+    for (; place != text.last && is_digit(*place); place++)
+        value = value * 10 + static_cast<uint32_t>(*place - '0');
+    if (place != text.last || text.length() > safe_digits)
+        return dak_atoi(text.first, DAK_ATOI_LENIENT, static_cast<uint32_t>(text.length()), &number);
+    number = value;
+    return 1;
+}
 
 // Reads white space, a sign and digits; what follows is ignored and no digits are 0. Values outside 32 bits
 // stop at the nearest bound, on every host alike.

@@ -125,7 +125,17 @@ struct text_range {
 
     // The next token between delimiters, taken off together with the one behind it; runs of delimiters count
     // as one. A NUL ends the text. Empty at its end.
-    text_range take_token(delimiter_set delimiters);
+    text_range take_token(delimiter_set delimiters)
+    {
+        const char *start = first;
+        while (start != last && delimiters.has(*start))
+            start++;
+        const char *stop = start;
+        while (stop != last && !delimiters.ends(*stop))
+            stop++;
+        first = stop != last && *stop != '\0' ? stop + 1 : stop;
+        return {start, stop};
+    }
 
     // The next word between spaces and line terminators.
     text_range take_word() { return take_token(" \r\n"); }
