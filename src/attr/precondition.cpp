@@ -28,6 +28,30 @@ uint32_t kind_of(text_range name)
     return 0;
 }
 
+int fail_to_split()
+{
+    DAK_LOG("parse_a_equal_pcd_line :                          could not get type and value \n");
+    return fail();
+}
+
+// The kind of a line; 0, logged and reported, for none. Lines mostly begin just as they are written.
+uint32_t read_kind(const char *line_start, const char *line_end)
+{
+    for (uint32_t kind = PCD_CURR; kind <= PCD_CONF; kind++) {
+        if (text_range(line_start, line_end).begins_with(words[kind - 1].head))
+            return kind;
+    }
+    const type_and_value line = split_type_and_value(line_start, line_end, "=", ":");
+    if (line.parts != 2)
+        return static_cast<uint32_t>(fail_to_split());
+    const uint32_t kind = kind_of(line.value);
+    if (kind == 0) {
+        DAK_LOG("parse_a_equal_pcd_line :                          unknown pcd attribute type \n");
+        dak_assert_failed();
+    }
+    return kind;
+}
+
 bool is_full(const media_description &description)
 {
     return description.pcd_count < 0 || description.pcd_count >= SDP_MAX_PRECONDITIONS;
@@ -48,12 +72,6 @@ int encode_entry(sdp_lib_context *context, uint32_t kind, text_range value)
     if (append_sdp_text(context, line.text()) && append_sdp_text(context, "\r\n"))
         return 1;
     DAK_LOG("encode_precondition_attr :                            Unable fill SDP buffer \n");
-    return fail();
-}
-
-int fail_to_split()
-{
-    DAK_LOG("parse_a_equal_pcd_line :                          could not get type and value \n");
     return fail();
 }
 
@@ -135,16 +153,11 @@ int parse_a_equal_pcd_line(media_description *description, const char *line_star
         DAK_LOG("parse_a_equal_pcd_line: pcd attr size exceeded\n");
         return 1;
     }
-    type_and_value line = split_type_and_value(line_start, line_end, "=", ":");
-    if (line.parts != 2)
-        return fail_to_split();
-    const uint32_t kind = kind_of(line.value);
-    if (kind == 0) {
-        DAK_LOG("parse_a_equal_pcd_line :                          unknown pcd attribute type \n");
-        return fail();
-    }
+    const uint32_t kind = read_kind(line_start, line_end);
+    if (kind == 0)
+        return 0;
     description->pcd_type[description->pcd_count] = kind;
-    line = split_type_and_value(line_start, line_end, ":", "\r");
+    const type_and_value line = split_type_and_value(line_start, line_end, ":", "\r");
     if (line.parts != 2)
         return fail_to_split();
     const int entry = description->pcd_count++;
