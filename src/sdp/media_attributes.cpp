@@ -14,6 +14,7 @@
 #include "sdp/rtcp_address.h"
 #include "sdp/rtpmap.h"
 #include "sdp/section_lines.hpp"
+#include "util/fixed_text.hpp"
 #include "util/report.hpp"
 
 using namespace dak;
@@ -21,7 +22,7 @@ using namespace dak;
 namespace {
 
 struct attribute_reader {
-    const char *name;
+    fixed_text<23> name;
     int (*read)(media_description *description, const char *line_start, const char *line_end);
     const char *failure;
 };
@@ -54,7 +55,7 @@ constexpr attribute_reader attribute_readers[] = {
 constexpr uint32_t initials = [] {
     uint32_t letters = 0;
     for (const attribute_reader &reader : attribute_readers)
-        letters |= letter_bit(*reader.name);
+        letters |= letter_bit(*reader.name.c_str());
     return letters;
 }();
 
@@ -103,12 +104,21 @@ uint32_t read_bindings(media_description *description, section_lines &lines)
     return kept;
 }
 
+// Names that begin alike mostly end in other letters.
+bool is_read_by(const attribute_reader &reader, text_range attribute)
+{
+    const char *name = reader.name.c_str();
+    const size_t last = reader.name.length() - 1;
+    return *name == *attribute.first && last < attribute.length() && name[last] == attribute.first[last] &&
+           attribute.begins_with(text_range(reader.name));
+}
+
 const attribute_reader *find_reader(text_range attribute)
 {
     if (attribute.empty() || (initials & letter_bit(*attribute.first)) == 0)
         return nullptr;
     for (const attribute_reader &reader : attribute_readers) {
-        if (*reader.name == *attribute.first && attribute.begins_with(reader.name))
+        if (is_read_by(reader, attribute))
             return &reader;
     }
     return nullptr;
