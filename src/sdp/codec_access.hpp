@@ -15,8 +15,8 @@ inline int payload_count(const media_description &description)
 
 inline bool has_codec(const media_description &description, int index)
 {
-    return index >= 0 && index < payload_count(description) && description.codecs != nullptr &&
-           index < description.codec_capacity;
+    return index >= 0 && index < SDP_MAX_PAYLOADS && index < description.number_of_payload &&
+           index < description.codec_capacity && description.codecs != nullptr;
 }
 
 // The codec at a position; null, reported, for a null description or a position without one.

@@ -4,9 +4,11 @@
 
 namespace dak {
 
-constexpr bool is_blank(char c) { return c == ' ' || c == '\t'; }
+// Most characters are letters and digits: one comparison tells them from all white space.
+constexpr bool is_above_blank(char c) { return static_cast<unsigned char>(c) > ' '; }
 constexpr bool is_line_term(char c) { return c == '\r' || c == '\n'; }
-constexpr bool is_white(char c) { return is_blank(c) || is_line_term(c); }
+constexpr bool is_blank(char c) { return !is_above_blank(c) && (c == ' ' || c == '\t'); }
+constexpr bool is_white(char c) { return !is_above_blank(c) && (c == ' ' || c == '\t' || is_line_term(c)); }
 constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 constexpr unsigned char to_upper(char c)
