@@ -130,6 +130,9 @@ int32_t dak::read_saturating(text_range text)
 
 scanned_number dak::scan_number(text_range text, size_t width, uint32_t base, bool is_signed)
 {
+    uint32_t value = 0;
+    if (base == 10 && width >= text.length() && read_short(text, value))
+        return {true, value};
     while (!text.empty() && (is_white(*text.first) || *text.first == '\v' || *text.first == '\f'))
         text.first++;
     if (width < text.length())

@@ -9,18 +9,25 @@
 
 namespace dak {
 
-// dak_atoi() of a range in its lenient mode. Nearly all of them are a few digits and nothing else.
-inline int read_lenient(text_range text, uint32_t &number)
+// Reads one to nine digits with nothing around them, as nearly all numbers of a body are; false for all else.
+inline bool read_short(text_range text, uint32_t &number)
 {
     constexpr size_t safe_digits = 9;
     uint32_t value = 0;
     const char *place = text.first;
     for (; place != text.last && is_digit(*place); place++)
         value = value * 10 + static_cast<uint32_t>(*place - '0');
-    if (place != text.last || text.length() > safe_digits)
-        return dak_atoi(text.first, DAK_ATOI_LENIENT, static_cast<uint32_t>(text.length()), &number);
+    if (place != text.last || text.empty() || text.length() > safe_digits)
+        return false;
     number = value;
-    return 1;
+    return true;
+}
+
+// dak_atoi() of a range in its lenient mode.
+inline int read_lenient(text_range text, uint32_t &number)
+{
+    return read_short(text, number) ||
+           dak_atoi(text.first, DAK_ATOI_LENIENT, static_cast<uint32_t>(text.length()), &number);
 }
 
 // Reads white space, a sign and digits; what follows is ignored and no digits are 0. Values outside 32 bits
