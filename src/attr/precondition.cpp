@@ -39,13 +39,13 @@ int encode_entry(sdp_lib_context *context, uint32_t kind, text_range value)
         DAK_LOG("encode_precondition_attr :                            Invalid pcd attr type \n");
         return 0;
     }
-    line_builder line;
+    sdp_line line(context);
     line.add(words[kind - 1].head).add(value);
-    if (!line.fits()) {
+    if (line.is_too_long()) {
         DAK_LOG("src str len exceeds dest str len %d\n", 200);
         return fail();
     }
-    if (append_sdp_text(context, line.text()) && append_sdp_text(context, "\r\n"))
+    if (line.write("\r\n"))
         return 1;
     DAK_LOG("encode_precondition_attr :                            Unable fill SDP buffer \n");
     return fail();

@@ -1,8 +1,8 @@
 #include "codec/codec_kind.h"
 
-#include "codec/fmtp_encode.h"
 #include "codec/media_value.h"
 #include "codec/codec_kinds.hpp"
+#include "codec/parameters.hpp"
 #include "sdp/codec_access.hpp"
 #include "util/bounded_text.hpp"
 
@@ -58,14 +58,8 @@ int encode(const codec_kind &kind, sdp_lib_context *context, const media_descrip
     media_codec *codec = codec_at(description, index);
     if (codec == nullptr)
         return 0;
-    char scratch[200];
-    media_info &info = codec->info;
-    // The list of telephone events stands on the line without a name; writing it drops the name for good.
-    if (&kind == &kinds::telephone_event)
-        info.param_name[0][0] = '\0';
     const auto payload_number = static_cast<uint16_t>(description->payload_numbers[index]);
-    return dak_sdp_encode_a_equal_fmtp_line(kind.count, info.param_present, payload_number, scratch, context,
-                                            info.param_name, info.param_value, kind.separator);
+    return write_fmtp_line(context, payload_number, *codec, kind);
 }
 
 } // namespace

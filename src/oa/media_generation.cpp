@@ -234,7 +234,8 @@ uint32_t encode_numbers(media_description *md, const sdp_media_line &mline)
     for (const number_attribute &attribute : number_attributes) {
         if (mline.*attribute.is_present == 0)
             continue;
-        const decimal digits(mline.*attribute.value);
+        built_text<value_size> digits;
+        digits.add_number(mline.*attribute.value);
         const uint32_t result = store_value(md, attribute.name, digits.text(), attribute.refused);
         if (result != SDP_OA_SUCCESS)
             return result;

@@ -104,13 +104,13 @@ int dak_encode_media_attribute(sdp_lib_context *context, media_description *desc
     if (context == nullptr || description == nullptr)
         return fail();
     for (const session_value *node = description->attributes; node != nullptr; node = node->next) {
-        line_builder line;
+        sdp_line line(context);
         line.add("a=").add(node->text).add("\r\n");
-        if (!line.fits()) {
+        if (line.is_too_long()) {
             DAK_LOG("len of str printed exceeded dst str len%d \n", 200);
             return fail();
         }
-        if (!append_sdp_text(context, line.text()))
+        if (!line.write())
             return fail();
     }
     return 1;

@@ -31,9 +31,8 @@ template <typename Matches> int find_free_slot(const media_description &descript
 
 int append_field(sdp_lib_context *context, const media_description &description, int slot)
 {
-    return append_sdp_text(context, field_text(description.media_value_tags[slot])) &&
-           append_sdp_text(context, field_text(description.media_values[slot])) &&
-           append_sdp_text(context, "\r\n");
+    return append_sdp_line(context->text_buffer, field_text(description.media_value_tags[slot]),
+                           field_text(description.media_values[slot]));
 }
 
 } // namespace

@@ -36,7 +36,8 @@ parameter_writer::parameter_writer(media_description *md, uint16_t codec_index)
 
 void parameter_writer::set_integer(int32_t value, text_range name)
 {
-    set(decimal::of_signed(value).text(), name, invalid_integer);
+    built_text<number_size> text;
+    set(text.add_signed(value).text(), name, invalid_integer);
 }
 
 void parameter_writer::set_flag(bool value, text_range name) { set(value ? "1" : "0", name, invalid_flag); }
