@@ -20,11 +20,7 @@ int initialise(const codec_kind &kind, media_codec *codec)
 {
     if (codec == nullptr)
         return fail();
-    write_names(codec->info.param_name, kind);
-    for (int i = 0; i < kind.count; i++) {
-        codec->info.param_value[i][0] = '\0';
-        codec->info.param_present[i] = 0;
-    }
+    prepare_parameters(*codec, kind);
     return 1;
 }
 
@@ -63,6 +59,15 @@ int encode(const codec_kind &kind, sdp_lib_context *context, const media_descrip
 }
 
 } // namespace
+
+void dak::prepare_parameters(media_codec &codec, const codec_kind &kind)
+{
+    write_names(codec.info.param_name, kind);
+    for (int i = 0; i < kind.count; i++) {
+        codec.info.param_value[i][0] = '\0';
+        codec.info.param_present[i] = 0;
+    }
+}
 
 #define DAK_KIND_EXPORTS(kind, init_name, set_name, get_name, encode_name, ...) \
     int init_name(media_codec *codec) { return initialise(kinds::kind, codec); } \

@@ -20,6 +20,13 @@ inline const codec_kind *find_kind(const media_codec &codec)
 // A MIME name as the registry has it; empty for an unknown one.
 const char *registered_name(text_range mime_name);
 
+// Writes the names of a kind into a record, and empties the values.
+void prepare_parameters(media_codec &codec, const codec_kind &kind);
+
+// Marks the parameter of a name as set and gives the room for its value, of 200 characters; null, logged, for a name that
+// the kind lacks.
+char *set_parameter_room(media_codec &codec, const codec_kind &kind, text_range name);
+
 // Stores a value under its name; 0, reported, when it is too long, and 0 for a format without parameters. A
 // name that the kind lacks is logged and passed over. The one value of telephone-event may come without a name.
 int set_parameter(media_codec &codec, const codec_kind &kind, text_range name, text_range value);

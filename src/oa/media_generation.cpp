@@ -10,6 +10,7 @@
 #include "sdp/attribute_lines.h"
 #include "sdp/document.h"
 #include "sdp/media_codecs.h"
+#include "sdp/media_codecs.hpp"
 #include "sdp/media_description.h"
 #include "sdp/media_values.h"
 
@@ -94,7 +95,7 @@ uint32_t encode_mline(sdp_lib_context *document, sdp_media_line *mline)
     return result;
 }
 
-uint32_t encode_codec(media_description *md, sdp_payload_format &format, uint32_t payload_number)
+uint32_t encode_codec(media_description *md, int index, sdp_payload_format &format)
 {
     const sdp_mime_entry *entry = dak_app_sdp_find_medentry_by_pt(format.codec_id);
     if (entry == nullptr) {
@@ -103,13 +104,7 @@ uint32_t encode_codec(media_description *md, sdp_payload_format &format, uint32_
         return SDP_OA_BAD_PARAMETERS;
     }
     constexpr uint32_t hz_per_khz = 1000;
-    const int index = add_media_codec_to_media_description(
-        md, static_cast<int32_t>(payload_number), entry->mime_name, format.clock_rate_khz * hz_per_khz, 1);
-    if (index < 0) {
-        DAK_LOG(
-            "dak_app_oa_encode_media_formats: Invalid                                      payload index\n");
-        return SDP_OA_INVALID_CONTENT;
-    }
+    set_rtpmap(md->codecs[index], entry->mime_name, format.clock_rate_khz * hz_per_khz, 1);
     if (entry->encode == nullptr)
         return SDP_OA_SUCCESS;
     const uint32_t result = entry->encode(md, static_cast<uint16_t>(index), &format.params);
@@ -142,13 +137,14 @@ uint32_t encode_format_feedback(media_description *md, const sdp_payload_format 
 uint32_t encode_format(media_description *md, sdp_payload_format &format, uint32_t payload_number,
                        uint32_t transport)
 {
-    if (add_media_rtpmap_valid_to_media_description(md, static_cast<int32_t>(payload_number),
-                                                    format.has_rtpmap) < 0) {
+    const int index = add_media_rtpmap_valid_to_media_description(md, static_cast<int32_t>(payload_number),
+                                                                  format.has_rtpmap);
+    if (index < 0) {
         DAK_LOG("dak_app_oa_encode_media_formats: Invalid                                      Media type\n");
         return SDP_OA_INVALID_CONTENT;
     }
     if (format.has_rtpmap != 0) {
-        const uint32_t result = encode_codec(md, format, payload_number);
+        const uint32_t result = encode_codec(md, index, format);
         if (result != SDP_OA_SUCCESS)
             return result;
     } else if (payload_number > highest_static_payload) {

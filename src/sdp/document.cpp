@@ -63,7 +63,10 @@ int clean_sdp_info_container(sdp_info_container *document)
         free_values(document->extra_values[slot], document->extra_tail[slot]);
     int cleaned = 0;
     for (media_description *&description : document->media_descriptions) {
-        cleaned = description != nullptr ? clean_media_description(description) : 0;
+        cleaned = 0;
+        if (description == nullptr)
+            continue;
+        cleaned = clean_media_description(description);
         description = nullptr;
     }
     return cleaned;
