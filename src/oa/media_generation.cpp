@@ -12,7 +12,7 @@
 #include "sdp/media_codecs.h"
 #include "sdp/media_codecs.hpp"
 #include "sdp/media_description.h"
-#include "sdp/media_values.h"
+#include "sdp/media_values.hpp"
 
 using namespace dak;
 
@@ -338,7 +338,7 @@ uint32_t dak_app_oa_encode_media_bandwidth(media_description *md, const sdp_band
         DAK_LOG("dak_app_oa_encode_bw: Incorrect params\n");
         return SDP_OA_BAD_PARAMETERS;
     }
-    const auto store_line = [md](const char *text) { return dak_sdp_set_media_value(md, "b=", text); };
+    const auto store_line = [md](text_range text) { return set_media_line(*md, "b=", text); };
     return encode_bandwidth(*bandwidth, store_line, [](int i) { return i; });
 }
 
