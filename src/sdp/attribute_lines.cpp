@@ -1,5 +1,6 @@
 #include "sdp/attribute_lines.h"
 
+#include "sdp/attribute_lines.hpp"
 #include "sdp/attribute_nodes.hpp"
 #include "sdp/document.hpp"
 #include "sdp/line_match.h"
@@ -9,7 +10,6 @@
 #include "util/scan.hpp"
 #include "util/token.h"
 #include "util/token.hpp"
-#include "util/trim.h"
 
 using namespace dak;
 
@@ -51,6 +51,12 @@ session_value *append_attribute(media_description &description, text_range name,
     return fail_null();
 }
 
+// Takes the white characters around a text of known length away.
+int trim(session_value &node, size_t length)
+{
+    return copy_text(node.text, text_range(node.text, length).trimmed());
+}
+
 // Fills `value` with the first word behind the colon; leaves it alone when there is none.
 void read_first_word(const char *text, char *value)
 {
@@ -74,16 +80,23 @@ bool first_attribute_matches(const sdp_info_container &document, const char *nam
 
 } // namespace
 
+int dak::set_attribute(media_description &description, text_range name)
+{
+    session_value *node = append_attribute(description, name, nullptr);
+    return node != nullptr && trim(*node, name.length());
+}
+
+int dak::set_attribute(media_description &description, text_range name, text_range value)
+{
+    session_value *node = append_attribute(description, name, &value);
+    return node != nullptr && trim(*node, name.length() + 1 + value.length());
+}
+
 int set_media_description_attribute(media_description *description, const char *name, const char *value)
 {
     if (description == nullptr || name == nullptr)
         return fail();
-    const text_range given = value != nullptr ? value : "";
-    session_value *node = append_attribute(*description, name, value != nullptr ? &given : nullptr);
-    if (node == nullptr)
-        return 0;
-    dak_remove_both_space(node->text);
-    return 1;
+    return value != nullptr ? set_attribute(*description, name, value) : set_attribute(*description, name);
 }
 
 int get_media_description_attribute(const media_description *description, const char *name, char *destination)
