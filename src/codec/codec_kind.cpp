@@ -10,12 +10,6 @@ using namespace dak;
 
 namespace {
 
-void write_names(char (*names)[200], const codec_kind &kind)
-{
-    for (int i = 0; i < kind.count; i++)
-        kind.slots[i].copy_to(names[i]);
-}
-
 int initialise(const codec_kind &kind, media_codec *codec)
 {
     if (codec == nullptr)
@@ -62,8 +56,8 @@ int encode(const codec_kind &kind, sdp_lib_context *context, const media_descrip
 
 void dak::prepare_parameters(media_codec &codec, const codec_kind &kind)
 {
-    write_names(codec.info.param_name, kind);
     for (int i = 0; i < kind.count; i++) {
+        kind.slots[i].copy_to(codec.info.param_name[i]);
         codec.info.param_value[i][0] = '\0';
         codec.info.param_present[i] = 0;
     }
@@ -89,6 +83,7 @@ int init_h263_common_params(char (*param_name)[200])
 {
     if (param_name == nullptr)
         return fail();
-    write_names(param_name, kinds::h263_1998);
+    for (int i = 0; i < kinds::h263_1998.count; i++)
+        kinds::h263_1998.slots[i].copy_to(param_name[i]);
     return 1;
 }

@@ -29,9 +29,9 @@ bool are_given(const sdp_lib_context *document, const sdp_container *container, 
     return false;
 }
 
-uint32_t store(sdp_lib_context *document, text_range tag, text_range value, const char *refused)
+uint32_t store(sdp_lib_context *document, session_slot slot, text_range value, const char *refused)
 {
-    if (set_session_value(document, tag, value))
+    if (set_session_value(document, slot, value))
         return SDP_OA_SUCCESS;
     log_text(refused);
     return SDP_OA_INVALID_CONTENT;
@@ -71,17 +71,17 @@ uint32_t build_origin(text_writer &line, const sdp_container &container)
 
 // What the builders of the s= and i= lines log.
 struct text_builder {
-    const char *tag;
+    session_slot slot;
     const char *no_memory;
     const char *refused;
 };
 
 // Named: for unnamed ones, some compilers keep templates that can be written to.
 constexpr text_builder name_builder = {
-    "s=", "dak_app_oa_encode_session:Malloc failed\n",
+    name_slot, "dak_app_oa_encode_session:Malloc failed\n",
     "dak_app_oa_encode_session:                                     Invalid session tag\n"};
 constexpr text_builder info_builder = {
-    "i=", "dak_app_oa_encode_info:Malloc failed \n",
+    information_slot, "dak_app_oa_encode_info:Malloc failed \n",
     "dak_app_oa_encode_info:Invalid SDP context                                              value\n"};
 
 uint32_t encode_text(sdp_lib_context *document, text_range value, const text_builder &builder)
@@ -91,7 +91,7 @@ uint32_t encode_text(sdp_lib_context *document, text_range value, const text_bui
         log_text(builder.no_memory);
         return SDP_OA_NO_MEMORY;
     }
-    return store(document, builder.tag, text.writer().add(value).text(), builder.refused);
+    return store(document, builder.slot, text.writer().add(value).text(), builder.refused);
 }
 
 uint32_t encode_direction(sdp_lib_context *document, const sdp_container &container, bool &is_refused)
@@ -102,7 +102,7 @@ uint32_t encode_direction(sdp_lib_context *document, const sdp_container &contai
                 static_cast<int>(container.direction));
         return SDP_OA_INVALID_CONTENT;
     }
-    is_refused = store(document, "a=", direction->text,
+    is_refused = store(document, attribute_slot, direction->text,
                        "dak_app_oa_encode_gen_attr:                              Invalid attr tag\n") !=
                  SDP_OA_SUCCESS;
     return SDP_OA_SUCCESS;
@@ -152,8 +152,8 @@ uint32_t encode_groups(sdp_lib_context *document, const sdp_container &container
         const uint32_t result = build_group(text, container, container.groups[i]);
         if (result != SDP_OA_SUCCESS)
             return result;
-        is_refused =
-            store(document, "a=", text.text(), "encode_gen_attr: Invalid attr tag\n") != SDP_OA_SUCCESS;
+        is_refused = store(document, attribute_slot, text.text(), "encode_gen_attr: Invalid attr tag\n") !=
+                     SDP_OA_SUCCESS;
     }
     return SDP_OA_SUCCESS;
 }
@@ -200,7 +200,7 @@ uint32_t dak_app_oa_encode_version(sdp_lib_context *document, const sdp_containe
         return SDP_OA_INVALID_CONTENT;
     }
     return store(
-        document, "v=", "0",
+        document, version_slot, "0",
         "dak_app_oa_encode_version: Invalid version                                                       info\n");
 }
 
@@ -219,7 +219,7 @@ uint32_t dak_app_oa_encode_origin(sdp_lib_context *document, const sdp_container
     if (result != SDP_OA_SUCCESS)
         return result;
     return store(
-        document, "o=", line.text(),
+        document, origin_slot, line.text(),
         "dak_app_oa_encode_origin:Invalid origin                                                 info \n");
 }
 
@@ -228,7 +228,7 @@ uint32_t dak_app_oa_encode_session(sdp_lib_context *document, const sdp_containe
     if (!are_given(document, container, "dak_app_oa_encode_session: Incorrect params\n"))
         return SDP_OA_BAD_PARAMETERS;
     if (container->session_name_present == 0)
-        return store(document, "s=", "-",
+        return store(document, name_slot, "-",
                      "dak_app_oa_encode_session:                              Invalid session tag\n");
     return encode_text(document, field_text(container->session_name), name_builder);
 }
@@ -246,7 +246,9 @@ uint32_t dak_app_oa_encode_bw(sdp_lib_context *document, const sdp_container *co
 {
     if (!are_given(document, container, "dak_app_oa_encode_bw: Incorrect params\n"))
         return SDP_OA_BAD_PARAMETERS;
-    const auto store_line = [document](text_range text) { return set_session_value(document, "b=", text); };
+    const auto store_line = [document](text_range text) {
+        return set_session_value(document, bandwidth_slot, text);
+    };
     // The session's log text names the first entry, whichever is wrong.
     return encode_bandwidth(container->bandwidth, store_line, [](int) { return 0; });
 }
@@ -271,7 +273,7 @@ uint32_t dak_app_oa_encode_connection(sdp_lib_context *document, const sdp_conta
         return result;
     }
     return store(
-        document, "c=", text.text(),
+        document, connection_slot, text.text(),
         "dak_app_oa_encode_connection:Invalid connection                                                  info\n");
 }
 
@@ -284,7 +286,7 @@ uint32_t dak_app_oa_encode_time(sdp_lib_context *document, const sdp_container *
     char room[time_size]; // two numbers always fit
     text_writer text(room);
     text.add_number(container->start_time).add(' ').add_number(container->stop_time);
-    return store(document, "t=", text.text(), "dak_app_oa_encode_time: Invalid time info\n");
+    return store(document, time_slot, text.text(), "dak_app_oa_encode_time: Invalid time info\n");
 }
 
 uint32_t dak_app_oa_encode_gen_attr(sdp_lib_context *document, const sdp_container *container)
@@ -317,6 +319,6 @@ uint32_t dak_app_oa_encode_message_attr(sdp_lib_context *document, const sdp_con
     const uint32_t result = build_accept(text, *container, mline->accept_types);
     if (result != SDP_OA_SUCCESS)
         return result;
-    return store(document, "a=", text.text(),
+    return store(document, attribute_slot, text.text(),
                  "dak_app_oa_encode_gen_attr:                            Invalid attr tag\n");
 }

@@ -50,13 +50,10 @@ int store(sdp_info_container &document, int slot, text_range value)
 
 } // namespace
 
-int dak::set_session_value(sdp_lib_context *context, text_range tag, text_range value)
+int dak::set_session_value(sdp_lib_context *context, session_slot slot, text_range value)
 {
     sdp_info_container *document = selected_document(context, SDP_ENCODER_DOCUMENT);
-    if (document == nullptr)
-        return 0;
-    const int slot = find_slot_ignoring_case(*document, tag);
-    return slot != no_slot ? store(*document, slot, value) : fail();
+    return document != nullptr ? store(*document, slot, value) : 0;
 }
 
 int set_session_value(sdp_lib_context *context, int selector, const char *tag, const char *value)
