@@ -37,6 +37,18 @@ int find_slot(text_range name, const media_info &info, const codec_kind &kind)
     return no_slot;
 }
 
+// The same, faster for a name that is spelled as the kind has it.
+int find_own_slot(text_range name, const media_info &info, const codec_kind &kind)
+{
+    const slot_name *const first = kind.slots;
+    for (const slot_name *own = first; own != first + kind.count; own++) {
+        if (own->length() == name.length() && memcmp(own->c_str(), name.first, name.length()) == 0 &&
+            own->is_at(info.param_name[own - first]))
+            return static_cast<int>(own - first);
+    }
+    return find_slot(name, info, kind);
+}
+
 int store(int slot, text_range value, char (*values)[200], uint32_t *present)
 {
     if (slot == no_slot) {
@@ -85,7 +97,7 @@ int dak::set_parameter(media_codec &codec, const codec_kind &kind, text_range na
 
 char *dak::set_parameter_room(media_codec &codec, const codec_kind &kind, text_range name)
 {
-    const int slot = find_slot(name, codec.info, kind);
+    const int slot = find_own_slot(name, codec.info, kind);
     if (slot == no_slot) {
         DAK_LOG("Unsupported parameter ");
         return nullptr;

@@ -32,6 +32,8 @@ parameter_writer::parameter_writer(media_description *md, uint16_t codec_index)
     : codec_(has_codec(*md, codec_index) ? &md->codecs[codec_index] : nullptr),
       kind_(codec_ != nullptr ? find_kind(*codec_) : nullptr)
 {
+    if (kind_ != nullptr && kind_->count == 0)
+        kind_ = nullptr;
 }
 
 void parameter_writer::set_integer(int32_t value, text_range name)
@@ -48,26 +50,23 @@ void parameter_writer::set_flag(bool value, text_range name)
 
 void parameter_writer::set_text(text_range value, text_range name)
 {
-    if (!has_parameters() || !set_parameter(*codec_, *kind_, name, value))
+    if (kind_ == nullptr || !set_parameter(*codec_, *kind_, name, value))
         refuse(invalid_text);
 }
 
 char *parameter_writer::room_for(text_range name, const char *failure)
 {
-    if (has_parameters())
+    if (kind_ != nullptr)
         return set_parameter_room(*codec_, *kind_, name);
     refuse(failure);
     return nullptr;
 }
 
 // Asking for a format that is not there is reported.
-bool parameter_writer::has_parameters() const
-{
-    return codec_ == nullptr ? fail() : kind_ != nullptr && kind_->count != 0;
-}
-
 void parameter_writer::refuse(const char *failure)
 {
+    if (codec_ == nullptr)
+        dak_assert_failed();
     log_text(failure);
     result_ = SDP_OA_INVALID_CONTENT;
 }

@@ -41,11 +41,10 @@ private:
     void set_flag(bool value, text_range name);
     void set_text(text_range value, text_range name);
     char *room_for(text_range name, const char *failure);
-    bool has_parameters() const;
     void refuse(const char *failure);
 
-    media_codec *codec_; // null for a format that is not there
-    const codec_kind *kind_;
+    media_codec *codec_;     // null for a format that is not there
+    const codec_kind *kind_; // null for one that has no parameters, too
     uint32_t result_ = SDP_OA_SUCCESS;
 };
 
