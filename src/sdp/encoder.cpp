@@ -22,7 +22,7 @@ constexpr uint16_t first_dynamic_payload = 96;
 
 int encode_slot(sdp_lib_context *context, const sdp_info_container &document, int slot)
 {
-    const text_range tag = field_text(document.type_tags[slot]);
+    const text_range tag = short_field_text(document.type_tags[slot]);
     if (!append_sdp_line(context->text_buffer, tag, field_text(document.values[slot])))
         return 0;
     for (const session_value *node = document.extra_values[slot]; node != nullptr; node = node->next) {

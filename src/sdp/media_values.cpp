@@ -32,7 +32,7 @@ template <typename Matches> int find_free_slot(const media_description &descript
 
 int append_field(sdp_lib_context *context, const media_description &description, int slot)
 {
-    return append_sdp_line(context->text_buffer, field_text(description.media_value_tags[slot]),
+    return append_sdp_line(context->text_buffer, short_field_text(description.media_value_tags[slot]),
                            field_text(description.media_values[slot]));
 }
 
