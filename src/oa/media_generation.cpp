@@ -197,7 +197,7 @@ uint32_t encode_setup(media_description *md, const sdp_media_line &mline)
 
 uint32_t store_value(media_description *md, const char *name, text_range value, const char *refused)
 {
-    if (set_attribute(*md, name, value))
+    if (set_attribute(*md, name, &value))
         return SDP_OA_SUCCESS;
     log_text(refused);
     return SDP_OA_BAD_PARAMETERS;

@@ -51,12 +51,6 @@ session_value *append_attribute(media_description &description, text_range name,
     return fail_null();
 }
 
-// Takes the white characters around a text of known length away.
-int trim(session_value &node, size_t length)
-{
-    return copy_text(node.text, text_range(node.text, length).trimmed());
-}
-
 // Fills `value` with the first word behind the colon; leaves it alone when there is none.
 void read_first_word(const char *text, char *value)
 {
@@ -80,23 +74,21 @@ bool first_attribute_matches(const sdp_info_container &document, const char *nam
 
 } // namespace
 
-int dak::set_attribute(media_description &description, text_range name)
+int dak::set_attribute(media_description &description, text_range name, const text_range *value)
 {
-    session_value *node = append_attribute(description, name, nullptr);
-    return node != nullptr && trim(*node, name.length());
-}
-
-int dak::set_attribute(media_description &description, text_range name, text_range value)
-{
-    session_value *node = append_attribute(description, name, &value);
-    return node != nullptr && trim(*node, name.length() + 1 + value.length());
+    session_value *node = append_attribute(description, name, value);
+    if (node == nullptr)
+        return 0;
+    const size_t length = name.length() + (value != nullptr ? 1 + value->length() : 0);
+    return copy_text(node->text, text_range(node->text, length).trimmed());
 }
 
 int set_media_description_attribute(media_description *description, const char *name, const char *value)
 {
     if (description == nullptr || name == nullptr)
         return fail();
-    return value != nullptr ? set_attribute(*description, name, value) : set_attribute(*description, name);
+    const text_range given = value != nullptr ? value : "";
+    return set_attribute(*description, name, value != nullptr ? &given : nullptr);
 }
 
 int get_media_description_attribute(const media_description *description, const char *name, char *destination)

@@ -7,9 +7,8 @@
 
 namespace dak {
 
-// set_media_description_attribute() for an attribute "name", and for one "name:value".
-int set_attribute(media_description &description, text_range name);
-int set_attribute(media_description &description, text_range name, text_range value);
+// set_media_description_attribute() for texts that are not terminated.
+int set_attribute(media_description &description, text_range name, const text_range *value = nullptr);
 
 } // namespace dak
 
