@@ -10,7 +10,7 @@ struct digit_pairs {
 
     constexpr digit_pairs() : text()
     {
-        for (int i = 0; i < 100; i++) {
+        for (size_t i = 0; i < 100; i++) {
             text[2 * i] = static_cast<char>('0' + i / 10);
             text[2 * i + 1] = static_cast<char>('0' + i % 10);
         }
