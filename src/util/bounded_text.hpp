@@ -68,9 +68,10 @@ public:
     size_t length() const { return length_; }
     // Empty for a text that does not fit.
     text_range text() const { return {room_, fits() ? length_ : 0}; }
+    void terminate() { room_[text().length()] = '\0'; }
     const char *c_str()
     {
-        room_[text().length()] = '\0';
+        terminate();
         return room_;
     }
 

@@ -39,13 +39,13 @@ parameter_writer::parameter_writer(media_description *md, uint16_t codec_index)
 void parameter_writer::set_integer(int32_t value, text_range name)
 {
     if (char *room = room_for(name, invalid_integer); room != nullptr)
-        text_writer(room, number_size).add_signed(value).c_str();
+        text_writer(room, number_size).add_signed(value).terminate();
 }
 
 void parameter_writer::set_flag(bool value, text_range name)
 {
     if (char *room = room_for(name, invalid_flag); room != nullptr)
-        text_writer(room, number_size).add(value ? '1' : '0').c_str();
+        text_writer(room, number_size).add(value ? '1' : '0').terminate();
 }
 
 void parameter_writer::set_text(text_range value, text_range name)

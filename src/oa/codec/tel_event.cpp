@@ -132,7 +132,7 @@ uint32_t dak_app_sdp_encode_dtmf_tel_event_tag(const sdp_tel_event_params *block
     text_writer list(out, list_size);
     uint16_t written = 0;
     const uint32_t result = write_events(list, *block, written);
-    list.c_str();
+    list.terminate();
     if (count != nullptr)
         *count = written;
     return result;
