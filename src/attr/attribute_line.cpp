@@ -1,26 +1,20 @@
 #include "attr/attribute_line.hpp"
 
-#include "sdp/text_buffer.hpp"
 #include "util/report.hpp"
 #include "util/token.hpp"
 
 namespace dak {
 
-int write_attribute_line(sdp_lib_context *context, const line_builder &line, text_range ending)
+int write_attribute_line(sdp_line &line, text_range ending)
 {
-    if (!line.fits()) {
+    if (line.is_too_long()) {
         DAK_LOG("src str len exceeds dest str len %d\n", 200);
         return fail();
     }
-    if (append_sdp_text(context, line.text()) && append_sdp_text(context, ending))
+    if (line.write(ending))
         return 1;
     DAK_LOG(" Unable to fill SDP buffer \n");
     return fail();
-}
-
-int write_attribute_line(sdp_lib_context *context, const line_builder &line)
-{
-    return write_attribute_line(context, line, "\r\n");
 }
 
 int has_write_arguments(const sdp_lib_context *context, const media_description *description)

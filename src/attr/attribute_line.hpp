@@ -4,16 +4,13 @@
 
 #include "sdp/document_record.h"
 #include "sdp/media_description_record.h"
-#include "util/bounded_text.hpp"
+#include "sdp/text_buffer.hpp"
 #include "util/report.hpp"
 
 namespace dak {
 
-// Writes a line and its CR LF; reports a line of 200 characters or more and a full text buffer.
-int write_attribute_line(sdp_lib_context *context, const line_builder &line);
-
-// The same for a line whose ending belongs to a piece of its own.
-int write_attribute_line(sdp_lib_context *context, const line_builder &line, text_range ending);
+// Writes a line and its ending; reports a line of 200 characters or more and a full text buffer.
+int write_attribute_line(sdp_line &line, text_range ending = "\r\n");
 
 // Checks the arguments of a writer, with its log line.
 int has_write_arguments(const sdp_lib_context *context, const media_description *description);

@@ -12,22 +12,22 @@ namespace {
 
 int encode_text(sdp_lib_context *context, const char *head, text_range text)
 {
-    line_builder line;
+    sdp_line line(context);
     line.add(head).add(text);
-    return write_attribute_line(context, line);
+    return write_attribute_line(line);
 }
 
 int encode_date(sdp_lib_context *context, const char *head, text_range date)
 {
     if (date.empty())
         return 1;
-    line_builder line;
+    sdp_line line(context);
     line.add(head).add(date);
-    return write_attribute_line(context, line, "\"\r\n");
+    return write_attribute_line(line, "\"\r\n");
 }
 
 // Each item keeps its trailing blank, at the end of the line too; the hash comes last and has none.
-void add_items(line_builder &line, const sdp_file_selector &selector)
+void add_items(text_writer &line, const sdp_file_selector &selector)
 {
     if (selector.name[0] != '\0')
         line.add("name:\"").add(field_text(selector.name)).add("\" ");
@@ -83,10 +83,10 @@ int dak_sdp_encode_file_range_attr(sdp_lib_context *context, media_description *
 {
     if (!has_write_arguments(context, description))
         return 0;
-    line_builder line;
+    sdp_line line(context);
     line.add("a=file-range:").add_signed(description->file_range.start);
     line.add('-').add_signed(description->file_range.stop);
-    return write_attribute_line(context, line);
+    return write_attribute_line(line);
 }
 
 int dak_sdp_encode_file_selector_attr(sdp_lib_context *context, media_description *description, int index)
@@ -98,9 +98,9 @@ int dak_sdp_encode_file_selector_attr(sdp_lib_context *context, media_descriptio
         return 0;
     }
     const sdp_file_selector &selector = description->file_selectors[index];
-    line_builder line;
+    sdp_line line(context);
     line.add("a=file-selector");
     if (selector.empty != 1)
         add_items(line.add(':'), selector);
-    return write_attribute_line(context, line);
+    return write_attribute_line(line);
 }

@@ -29,7 +29,7 @@ int encode_accept(sdp_lib_context *context, const sdp_accept_attr &record, const
 {
     if (!is_present(static_cast<uint8_t>(record.present)))
         return 0;
-    line_builder line;
+    sdp_line line(context);
     line.add(head);
     for (uint32_t i = 0; i < static_cast<uint16_t>(record.count) && i < SDP_ACCEPT_MAX_TYPES; i++) {
         if (i > 0)
@@ -37,10 +37,10 @@ int encode_accept(sdp_lib_context *context, const sdp_accept_attr &record, const
         if (const char *text = type_text(record.types[i], column); text != nullptr)
             line.add(text);
     }
-    return write_attribute_line(context, line);
+    return write_attribute_line(line);
 }
 
-void add_authority(line_builder &line, const sdp_path_attr &path)
+void add_authority(text_writer &line, const sdp_path_attr &path)
 {
     if (path.user[0] != '\0')
         line.add(field_text(path.user)).add('@');
@@ -75,7 +75,7 @@ int dak_sdp_encode_path_attr(sdp_lib_context *context, media_description *descri
     if (!has_write_arguments(context, description) || !is_present(description->path.present))
         return 0;
     const sdp_path_attr &path = description->path;
-    line_builder line;
+    sdp_line line(context);
     line.add("a=path:");
     if (path.scheme == SDP_PATH_MSRP)
         line.add("msrp://");
@@ -83,7 +83,7 @@ int dak_sdp_encode_path_attr(sdp_lib_context *context, media_description *descri
         line.add("msrps://");
     add_authority(line, path);
     line.add('/').add(field_text(path.session_id)).add(';').add(field_text(path.transport));
-    return write_attribute_line(context, line);
+    return write_attribute_line(line);
 }
 
 int dak_sdp_encode_max_size_attr(sdp_lib_context *context, media_description *description)
@@ -91,7 +91,7 @@ int dak_sdp_encode_max_size_attr(sdp_lib_context *context, media_description *de
     if (!has_write_arguments(context, description) ||
         !is_present(static_cast<uint8_t>(description->max_size.present)))
         return 0;
-    line_builder line;
+    sdp_line line(context);
     line.add("a=max-size:").add_number(description->max_size.max_size);
-    return write_attribute_line(context, line);
+    return write_attribute_line(line);
 }

@@ -1,5 +1,6 @@
 #include "attr/precondition.h"
 
+#include "attr/precondition.hpp"
 #include "sdp/text_buffer.hpp"
 #include "util/bounded_text.hpp"
 #include "util/report.hpp"
@@ -63,13 +64,13 @@ int encode_entry(sdp_lib_context *context, uint32_t kind, text_range value)
         DAK_LOG("encode_precondition_attr :                            Invalid pcd attr type \n");
         return 0;
     }
-    line_builder line;
+    sdp_line line(context);
     line.add(words[kind - 1].head).add(value);
-    if (!line.fits()) {
+    if (line.is_too_long()) {
         DAK_LOG("src str len exceeds dest str len %d\n", 200);
         return fail();
     }
-    if (append_sdp_text(context, line.text()) && append_sdp_text(context, "\r\n"))
+    if (line.write("\r\n"))
         return 1;
     DAK_LOG("encode_precondition_attr :                            Unable fill SDP buffer \n");
     return fail();
@@ -77,29 +78,33 @@ int encode_entry(sdp_lib_context *context, uint32_t kind, text_range value)
 
 } // namespace
 
-int set_media_precond_attr(media_description *description, uint32_t kind, const char *value)
+int dak::set_precondition(media_description &description, uint32_t kind, text_range value)
 {
-    if (description == nullptr || value == nullptr) {
-        DAK_LOG("set_media_precond_attr : null params \n");
-        return 0;
-    }
     if (!is_kind(kind)) {
         DAK_LOG("set_media_precond_attr :                           Unknown pcd attribute type \n");
         return 0;
     }
-    if (is_full(*description)) {
+    if (is_full(description)) {
         DAK_LOG("set_media_precond_attr :                           Precond list size overflow \n");
         return 0;
     }
-    const int entry = description->pcd_count++;
-    description->pcd_type[entry] = kind;
-    if (!copy_text(description->pcd_value[entry], value)) {
+    const int entry = description.pcd_count++;
+    description.pcd_type[entry] = kind;
+    if (!copy_text(description.pcd_value[entry], value)) {
         DAK_LOG("Src str length exceeded dst str %lu \n",
-                static_cast<unsigned long>(sizeof *description->pcd_value));
+                static_cast<unsigned long>(sizeof *description.pcd_value));
         return fail();
     }
-    description->pcd_present = 1;
+    description.pcd_present = 1;
     return 1;
+}
+
+int set_media_precond_attr(media_description *description, uint32_t kind, const char *value)
+{
+    if (description != nullptr && value != nullptr)
+        return set_precondition(*description, kind, value);
+    DAK_LOG("set_media_precond_attr : null params \n");
+    return 0;
 }
 
 int get_number_of_precond_attrs(const media_description *description)

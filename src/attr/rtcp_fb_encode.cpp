@@ -29,22 +29,25 @@ bool is_writable(const rtcp_fb_entry &entry)
 }
 
 // Writes a list under the number or the "*" that `payload` holds.
-int encode_list(sdp_lib_context *context, const rtcp_fb_list &list, const line_builder &payload)
+int encode_list(sdp_lib_context *context, const rtcp_fb_list &list, text_range payload)
 {
     if (list.fb_present != 1 || list.fb_count > RTCP_FB_MAX_ENTRIES) {
         DAK_LOG(" Invalid fb params \n");
         return 0;
     }
-    line_builder line; // a subtype without words repeats the line before it
+    const char *words = nullptr; // a subtype without words repeats the line before it
     for (uint32_t i = 0; i < list.fb_count; i++) {
         const rtcp_fb_entry &entry = list.fb_entries[i];
         if (!is_writable(entry)) {
             DAK_LOG(" Unsupported fb attributes \n");
             return 0;
         }
-        if (const char *words = feedback_words(entry); words != nullptr)
-            line = line_builder().add("a=rtcp-fb:").add(payload.text()).add(words);
-        if (!write_attribute_line(context, line))
+        if (const char *own = feedback_words(entry); own != nullptr)
+            words = own;
+        sdp_line line(context);
+        if (words != nullptr)
+            line.add("a=rtcp-fb:").add(payload).add(words);
+        if (!write_attribute_line(line))
             return 0;
     }
     return 1;
@@ -56,7 +59,7 @@ int dak_sdp_encode_rtcp_fb_attr(sdp_lib_context *context, media_description *des
 {
     if (!has_write_arguments(context, description))
         return 0;
-    return encode_list(context, description->rtcp_fb, line_builder().add('*'));
+    return encode_list(context, description->rtcp_fb, "*");
 }
 
 int dak_sdp_encode_rtcp_fb_attr_at_pt(sdp_lib_context *context, media_description *description, int index)
@@ -67,5 +70,5 @@ int dak_sdp_encode_rtcp_fb_attr_at_pt(sdp_lib_context *context, media_descriptio
     if (codec == nullptr)
         return 0;
     const auto payload_number = static_cast<uint16_t>(description->payload_numbers[index]);
-    return encode_list(context, codec->rtcp_fb, line_builder().add_number(payload_number));
+    return encode_list(context, codec->rtcp_fb, built_text<8>().add_number(payload_number).text());
 }

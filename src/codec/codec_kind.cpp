@@ -1,8 +1,8 @@
 #include "codec/codec_kind.h"
 
-#include "codec/fmtp_encode.h"
 #include "codec/media_value.h"
 #include "codec/codec_kinds.hpp"
+#include "codec/parameters.hpp"
 #include "sdp/codec_access.hpp"
 #include "util/bounded_text.hpp"
 
@@ -10,21 +10,11 @@ using namespace dak;
 
 namespace {
 
-void write_names(char (*names)[200], const codec_kind &kind)
-{
-    for (int i = 0; i < kind.count; i++)
-        kind.slots[i].copy_to(names[i]);
-}
-
 int initialise(const codec_kind &kind, media_codec *codec)
 {
     if (codec == nullptr)
         return fail();
-    write_names(codec->info.param_name, kind);
-    for (int i = 0; i < kind.count; i++) {
-        codec->info.param_value[i][0] = '\0';
-        codec->info.param_present[i] = 0;
-    }
+    prepare_parameters(*codec, kind);
     return 1;
 }
 
@@ -58,17 +48,20 @@ int encode(const codec_kind &kind, sdp_lib_context *context, const media_descrip
     media_codec *codec = codec_at(description, index);
     if (codec == nullptr)
         return 0;
-    char scratch[200];
-    media_info &info = codec->info;
-    // The list of telephone events stands on the line without a name; writing it drops the name for good.
-    if (&kind == &kinds::telephone_event)
-        info.param_name[0][0] = '\0';
     const auto payload_number = static_cast<uint16_t>(description->payload_numbers[index]);
-    return dak_sdp_encode_a_equal_fmtp_line(kind.count, info.param_present, payload_number, scratch, context,
-                                            info.param_name, info.param_value, kind.separator);
+    return write_fmtp_line(context, payload_number, *codec, kind);
 }
 
 } // namespace
+
+void dak::prepare_parameters(media_codec &codec, const codec_kind &kind)
+{
+    for (int i = 0; i < kind.count; i++) {
+        kind.slots[i].copy_to(codec.info.param_name[i]);
+        codec.info.param_value[i][0] = '\0';
+        codec.info.param_present[i] = 0;
+    }
+}
 
 #define DAK_KIND_EXPORTS(kind, init_name, set_name, get_name, encode_name, ...) \
     int init_name(media_codec *codec) { return initialise(kinds::kind, codec); } \
@@ -90,6 +83,7 @@ int init_h263_common_params(char (*param_name)[200])
 {
     if (param_name == nullptr)
         return fail();
-    write_names(param_name, kinds::h263_1998);
+    for (int i = 0; i < kinds::h263_1998.count; i++)
+        kinds::h263_1998.slots[i].copy_to(param_name[i]);
     return 1;
 }

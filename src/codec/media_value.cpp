@@ -80,6 +80,17 @@ int dak::set_parameter(media_codec &codec, const codec_kind &kind, text_range na
     return store(find_slot(name, info, kind), value, info.param_value, info.param_present);
 }
 
+char *dak::set_parameter_room(media_codec &codec, const codec_kind &kind, text_range name)
+{
+    const int slot = find_slot(name, codec.info, kind);
+    if (slot == no_slot) {
+        DAK_LOG("Unsupported parameter ");
+        return nullptr;
+    }
+    codec.info.param_present[slot] = 1;
+    return codec.info.param_value[slot];
+}
+
 uint32_t dak::set_slots(const media_codec &codec, const codec_kind &kind)
 {
     uint32_t slots = 0;

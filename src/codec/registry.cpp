@@ -63,9 +63,9 @@ int dak_sdp_get_mime_val(const char *name, uint32_t *index)
     return 1;
 }
 
-const codec_kind *dak::find_kind(const media_codec &codec)
+const codec_kind *dak::find_kind(text_range name)
 {
-    const int found = mime_names.find(field_text(codec.mime_type), mime_name);
+    const int found = mime_names.find(name, mime_name);
     return found < 0 ? nullptr : kinds_by_mime[found];
 }
 

@@ -1,13 +1,25 @@
 #include "oa/address.h"
 
+#include "oa/address.hpp"
 #include "oa/result_code.h"
 #include "oa/truncation.hpp"
-#include "util/bounded_text.hpp"
 #include "util/report.hpp"
 
 using namespace dak;
 
 namespace {
+
+// The words in front of an address; null, logged, for an address type that cannot be written.
+const char *types_of(const sdp_address &address)
+{
+    if (address.addr_type == SDP_ADDR_IPV4)
+        return "IN IP4 ";
+    if (address.addr_type == SDP_ADDR_IPV6)
+        return "IN IP6 ";
+    DAK_LOG("dak_app_oa_parse_address: Invalid address                        type: %d\n",
+            static_cast<int>(address.addr_type));
+    return nullptr;
+}
 
 bool append(char *text, size_t capacity, text_range piece)
 {
@@ -56,20 +68,25 @@ uint32_t parse_address_text(text_range word, sdp_address &address)
 
 } // namespace
 
+uint32_t dak::add_address(text_writer &text, const sdp_address &address)
+{
+    const char *types = types_of(address);
+    if (types == nullptr)
+        return SDP_OA_INVALID_CONTENT;
+    text.add(types).add(field_text(address.address));
+    return SDP_OA_SUCCESS;
+}
+
 uint32_t dak_app_oa_add_address_value(char *text, uint16_t capacity, const sdp_address *address)
 {
     if (text == nullptr || address == nullptr) {
         DAK_LOG("dak_app_oa_add_address_value:                                        Incorrect params\n");
         return SDP_OA_BAD_PARAMETERS;
     }
-    if (address->addr_type != SDP_ADDR_IPV4 && address->addr_type != SDP_ADDR_IPV6) {
-        DAK_LOG("dak_app_oa_parse_address: Invalid address                        type: %d\n",
-                static_cast<int>(address->addr_type));
+    const char *types = types_of(*address);
+    if (types == nullptr)
         return SDP_OA_INVALID_CONTENT;
-    }
-    const char *types = address->addr_type == SDP_ADDR_IPV4 ? "IN IP4" : "IN IP6";
-    if (append(text, capacity, types) && append(text, capacity, " ") &&
-        append(text, capacity, field_text(address->address)))
+    if (append(text, capacity, types) && append(text, capacity, field_text(address->address)))
         return SDP_OA_SUCCESS;
     return fail_as_truncated(capacity);
 }

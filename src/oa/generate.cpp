@@ -6,7 +6,6 @@
 #include "oa/truncation.hpp"
 #include "sdp/context.hpp"
 #include "sdp/encoder.h"
-#include "sdp/text_buffer.h"
 #include "util/bounded_text.hpp"
 #include "util/report.hpp"
 
@@ -55,9 +54,8 @@ uint32_t build_document(sdp_lib_context *document, sdp_container *container)
     return result;
 }
 
-uint32_t copy_out(const char *text, const sdp_payload_buffer &buffer)
+uint32_t copy_out(text_range written, const sdp_payload_buffer &buffer)
 {
-    const text_range written(text);
     DAK_LOG("dak_app_oa_generate_sdp: SDP out length: %d, In length: %d\n",
             static_cast<int>(written.length()), static_cast<int>(buffer.capacity));
     if (written.length() + 1 > buffer.capacity) {
@@ -74,13 +72,8 @@ uint32_t encode_document(sdp_lib_context *document, const sdp_payload_buffer &bu
         DAK_LOG("dak_app_oa_generate_sdp: Error encoding                           session/media\n");
         return SDP_OA_INVALID_CONTENT;
     }
-    const char *text = get_sdp_text(document);
-    if (text == nullptr) {
-        DAK_LOG(
-            "dak_app_oa_generate_sdp:Failed getting Encoder                                     sdp_payload \n");
-        return SDP_OA_BAD_PARAMETERS;
-    }
-    return copy_out(text, buffer);
+    const sdp_text_buffer &text = *document->text_buffer;
+    return copy_out({text.text, size_t{text.length}}, buffer);
 }
 
 } // namespace

@@ -1,17 +1,18 @@
 #include "oa/media_generation.h"
 
-#include "attr/precondition.h"
+#include "attr/precondition.hpp"
 #include "attr/rtcp_fb.h"
 #include "oa/bandwidth.hpp"
 #include "oa/codec/mime_table.h"
-#include "oa/precondition_text.h"
+#include "oa/precondition_text.hpp"
 #include "oa/result_code.h"
 #include "oa/words.hpp"
-#include "sdp/attribute_lines.h"
+#include "sdp/attribute_lines.hpp"
 #include "sdp/document.h"
 #include "sdp/media_codecs.h"
+#include "sdp/media_codecs.hpp"
 #include "sdp/media_description.h"
-#include "sdp/media_values.h"
+#include "sdp/media_values.hpp"
 
 using namespace dak;
 
@@ -19,8 +20,7 @@ namespace {
 
 constexpr uint32_t highest_static_payload = 95;
 constexpr uint32_t most_preconditions = 9;
-constexpr size_t value_size = 256;
-using value_text = built_text<value_size>;
+constexpr size_t number_size = sizeof "65535";
 
 bool can_be_written(uint32_t media_type)
 {
@@ -94,7 +94,7 @@ uint32_t encode_mline(sdp_lib_context *document, sdp_media_line *mline)
     return result;
 }
 
-uint32_t encode_codec(media_description *md, sdp_payload_format &format, uint32_t payload_number)
+uint32_t encode_codec(media_description *md, int index, sdp_payload_format &format)
 {
     const sdp_mime_entry *entry = dak_app_sdp_find_medentry_by_pt(format.codec_id);
     if (entry == nullptr) {
@@ -103,13 +103,7 @@ uint32_t encode_codec(media_description *md, sdp_payload_format &format, uint32_
         return SDP_OA_BAD_PARAMETERS;
     }
     constexpr uint32_t hz_per_khz = 1000;
-    const int index = add_media_codec_to_media_description(
-        md, static_cast<int32_t>(payload_number), entry->mime_name, format.clock_rate_khz * hz_per_khz, 1);
-    if (index < 0) {
-        DAK_LOG(
-            "dak_app_oa_encode_media_formats: Invalid                                      payload index\n");
-        return SDP_OA_INVALID_CONTENT;
-    }
+    set_rtpmap(md->codecs[index], entry->mime_name, format.clock_rate_khz * hz_per_khz, 1);
     if (entry->encode == nullptr)
         return SDP_OA_SUCCESS;
     const uint32_t result = entry->encode(md, static_cast<uint16_t>(index), &format.params);
@@ -142,13 +136,14 @@ uint32_t encode_format_feedback(media_description *md, const sdp_payload_format 
 uint32_t encode_format(media_description *md, sdp_payload_format &format, uint32_t payload_number,
                        uint32_t transport)
 {
-    if (add_media_rtpmap_valid_to_media_description(md, static_cast<int32_t>(payload_number),
-                                                    format.has_rtpmap) < 0) {
+    const int index = add_media_rtpmap_valid_to_media_description(md, static_cast<int32_t>(payload_number),
+                                                                  format.has_rtpmap);
+    if (index < 0) {
         DAK_LOG("dak_app_oa_encode_media_formats: Invalid                                      Media type\n");
         return SDP_OA_INVALID_CONTENT;
     }
     if (format.has_rtpmap != 0) {
-        const uint32_t result = encode_codec(md, format, payload_number);
+        const uint32_t result = encode_codec(md, index, format);
         if (result != SDP_OA_SUCCESS)
             return result;
     } else if (payload_number > highest_static_payload) {
@@ -161,9 +156,9 @@ uint32_t encode_format(media_description *md, sdp_payload_format &format, uint32
 }
 
 // Stores a property attribute.
-uint32_t store_property(media_description *md, const char *text)
+uint32_t store_property(media_description *md, text_range text)
 {
-    if (set_media_description_attribute(md, text, nullptr))
+    if (set_attribute(*md, text))
         return SDP_OA_SUCCESS;
     DAK_LOG("dak_app_oa_encode_media_gen_attr:No attr\n");
     return SDP_OA_INVALID_CONTENT;
@@ -174,7 +169,7 @@ uint32_t encode_direction(media_description *md, const sdp_media_line &mline)
     if (mline.direction_present == 0)
         return SDP_OA_SUCCESS;
     if (const word *direction = find_word(direction_words, mline.direction); direction != nullptr)
-        return store_property(md, direction->text.c_str());
+        return store_property(md, direction->text);
     DAK_LOG("dak_app_oa_encode_media_gen_attr:Invalid                               dir.attr: %d\n",
             static_cast<int>(mline.direction));
     return SDP_OA_INVALID_CONTENT;
@@ -192,9 +187,9 @@ uint32_t encode_setup(media_description *md, const sdp_media_line &mline)
         return SDP_OA_INVALID_CONTENT;
     }
     if (mline.conn_status_present == 0)
-        return store_property(md, setup->text.c_str());
+        return store_property(md, setup->text);
     if (const word *connection = find_word(connection_words, mline.conn_status); connection != nullptr)
-        return store_property(md, connection->text.c_str());
+        return store_property(md, connection->text);
     DAK_LOG("dak_app_oa_encode_media_gen_attr:Invalid                              conn_status.attr: %d\n",
             static_cast<int>(mline.conn_status));
     return SDP_OA_INVALID_CONTENT;
@@ -202,10 +197,7 @@ uint32_t encode_setup(media_description *md, const sdp_media_line &mline)
 
 uint32_t store_value(media_description *md, const char *name, text_range value, const char *refused)
 {
-    value_text text;
-    if (!text.add(value).fits())
-        return fail_as_truncated(value_size);
-    if (set_media_description_attribute(md, name, text.c_str()))
+    if (set_attribute(*md, name, &value))
         return SDP_OA_SUCCESS;
     log_text(refused);
     return SDP_OA_BAD_PARAMETERS;
@@ -234,7 +226,9 @@ uint32_t encode_numbers(media_description *md, const sdp_media_line &mline)
     for (const number_attribute &attribute : number_attributes) {
         if (mline.*attribute.is_present == 0)
             continue;
-        const decimal digits(mline.*attribute.value);
+        char room[number_size];
+        text_writer digits(room);
+        digits.add_number(mline.*attribute.value);
         const uint32_t result = store_value(md, attribute.name, digits.text(), attribute.refused);
         if (result != SDP_OA_SUCCESS)
             return result;
@@ -252,11 +246,12 @@ uint32_t encode_mid(media_description *md, const sdp_media_line &mline)
 
 uint32_t encode_precondition(media_description *md, const sdp_precondition &entry)
 {
-    char text[value_size];
-    const uint32_t result = dak_app_oa_encode_pre_cond_str(text, &entry);
+    char room[precondition_size];
+    text_writer text(room);
+    const uint32_t result = add_precondition(text, entry);
     if (result != SDP_OA_SUCCESS)
         return result;
-    if (set_media_precond_attr(md, entry.kind, text))
+    if (set_precondition(*md, entry.kind, text.text()))
         return SDP_OA_SUCCESS;
     DAK_LOG("dak_app_oa_encode_media_gen_attr :                           Invalid precond. attr \n");
     return SDP_OA_INVALID_CONTENT;
@@ -341,7 +336,7 @@ uint32_t dak_app_oa_encode_media_bandwidth(media_description *md, const sdp_band
         DAK_LOG("dak_app_oa_encode_bw: Incorrect params\n");
         return SDP_OA_BAD_PARAMETERS;
     }
-    const auto store_line = [md](const char *text) { return dak_sdp_set_media_value(md, "b=", text); };
+    const auto store_line = [md](text_range text) { return set_media_line(*md, "b=", text); };
     return encode_bandwidth(*bandwidth, store_line, [](int i) { return i; });
 }
 

@@ -1,10 +1,10 @@
 #include "oa/precondition_text.h"
 
 #include "oa/precondition_fields.hpp"
+#include "oa/precondition_text.hpp"
 #include "oa/result_code.h"
 #include "oa/truncation.hpp"
 #include "oa/words.hpp"
-#include "util/bounded_text.hpp"
 
 using namespace dak;
 
@@ -12,17 +12,10 @@ namespace {
 
 constexpr size_t text_size = 256;
 constexpr delimiter_set delimiters = " \n";
-using precondition_text = built_text<text_size>;
 
 bool is_kind(uint32_t kind) { return find_word(precondition_words, kind) != nullptr; }
 
-uint32_t overflow(const char *text)
-{
-    log_text(text);
-    return SDP_OA_TOO_LONG;
-}
-
-uint32_t add_type(precondition_text &text, const sdp_precondition &entry)
+uint32_t add_type(text_writer &text, const sdp_precondition &entry)
 {
     const word *type = find_word(precondition_type_words, entry.precond_type);
     if (type == nullptr) {
@@ -30,15 +23,12 @@ uint32_t add_type(precondition_text &text, const sdp_precondition &entry)
                 static_cast<int>(entry.precond_type));
         return SDP_OA_INVALID_CONTENT;
     }
-    if (text.add(type->text).add(' ').fits())
-        return SDP_OA_SUCCESS;
-    DAK_LOG("dak_app_oa_encode_pre_cond_str :                                 error - buffer overflow:%lu",
-            static_cast<unsigned long>(text_size));
-    return SDP_OA_TOO_LONG;
+    text.add(type->text).add(' ');
+    return SDP_OA_SUCCESS;
 }
 
 // Its failure logs 1 in place of the strength; log filters look for that.
-uint32_t add_strength(precondition_text &text, const sdp_precondition &entry)
+uint32_t add_strength(text_writer &text, const sdp_precondition &entry)
 {
     if (entry.kind != PCD_DES)
         return SDP_OA_SUCCESS;
@@ -49,13 +39,11 @@ uint32_t add_strength(precondition_text &text, const sdp_precondition &entry)
             1);
         return SDP_OA_INVALID_CONTENT;
     }
-    if (text.add(strength->text).add(' ').fits())
-        return SDP_OA_SUCCESS;
-    return overflow(
-        "dak_app_oa_encode_pre_cond_str :                                 error - buffer overflow ");
+    text.add(strength->text).add(' ');
+    return SDP_OA_SUCCESS;
 }
 
-uint32_t add_status(precondition_text &text, const sdp_precondition &entry)
+uint32_t add_status(text_writer &text, const sdp_precondition &entry)
 {
     const word *status = find_word(status_words, status_of(entry));
     const word *direction = find_word(precondition_direction_words, direction_of(entry));
@@ -69,10 +57,8 @@ uint32_t add_status(precondition_text &text, const sdp_precondition &entry)
                 static_cast<int>(direction_of(entry)));
         return SDP_OA_INVALID_CONTENT;
     }
-    if (text.add(status->text).add(' ').add(direction->text).fits())
-        return SDP_OA_SUCCESS;
-    return overflow(
-        "dak_app_oa_encode_pre_cond_str :                               error - buffer overflow ");
+    text.add(status->text).add(' ').add(direction->text);
+    return SDP_OA_SUCCESS;
 }
 
 // Stores the status type and the direction where the entry's kind has them.
@@ -144,22 +130,29 @@ uint32_t read_status(text_range &rest, sdp_precondition &entry)
 
 } // namespace
 
+uint32_t dak::add_precondition(text_writer &text, const sdp_precondition &entry)
+{
+    if (!is_kind(entry.kind)) {
+        DAK_LOG("error - unknown pcd type ");
+        return SDP_OA_INVALID_CONTENT;
+    }
+    uint32_t result = add_type(text, entry);
+    if (result == SDP_OA_SUCCESS)
+        result = add_strength(text, entry);
+    if (result == SDP_OA_SUCCESS)
+        result = add_status(text, entry);
+    return result;
+}
+
 uint32_t dak_app_oa_encode_pre_cond_str(char *text, const sdp_precondition *entry)
 {
     if (text == nullptr || entry == nullptr) {
         DAK_LOG("dak_app_oa_encode_pre_cond_str:                           error - Invalid params");
         return SDP_OA_BAD_PARAMETERS;
     }
-    if (!is_kind(entry->kind)) {
-        DAK_LOG("error - unknown pcd type ");
-        return SDP_OA_INVALID_CONTENT;
-    }
-    precondition_text built;
-    uint32_t result = add_type(built, *entry);
-    if (result == SDP_OA_SUCCESS)
-        result = add_strength(built, *entry);
-    if (result == SDP_OA_SUCCESS)
-        result = add_status(built, *entry);
+    char room[precondition_size];
+    text_writer built(room);
+    const uint32_t result = add_precondition(built, *entry);
     if (result == SDP_OA_SUCCESS)
         copy_text(text, text_size, built.text());
     return result;

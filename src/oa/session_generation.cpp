@@ -1,14 +1,13 @@
 #include "oa/session_generation.h"
 
 #include "attr/content_type.hpp"
-#include "oa/address.h"
+#include "oa/address.hpp"
 #include "oa/bandwidth.hpp"
 #include "oa/result_code.h"
 #include "oa/truncation.hpp"
 #include "oa/words.hpp"
-#include "sdp/session_values.h"
+#include "sdp/session_values.hpp"
 #include "util/heap_text.hpp"
-#include "util/number.h"
 #include "util/report.hpp"
 
 using namespace dak;
@@ -30,54 +29,40 @@ bool are_given(const sdp_lib_context *document, const sdp_container *container, 
     return false;
 }
 
-uint32_t store(sdp_lib_context *document, const char *tag, const char *value, const char *refused)
+uint32_t store(sdp_lib_context *document, session_slot slot, text_range value, const char *refused)
 {
-    if (set_session_value(document, SDP_ENCODER_DOCUMENT, tag, value))
+    if (set_session_value(document, slot, value))
         return SDP_OA_SUCCESS;
     log_text(refused);
     return SDP_OA_INVALID_CONTENT;
 }
 
 // Appends a number and a blank; `insufficient` is logged with the room for the number when it takes more.
-uint32_t add_number(heap_text &line, uint64_t number, const char *insufficient)
+uint32_t add_number(text_writer &line, uint64_t number, const char *insufficient)
 {
-    char text[number_size];
-    if (!dak_i64toa(static_cast<int64_t>(number), text, number_size)) {
+    const size_t start = line.length();
+    if (line.add_signed(static_cast<int64_t>(number)).length() - start >= number_size) {
         DAK_LOG(insufficient, static_cast<int>(number_size));
         return SDP_OA_TOO_LONG;
     }
-    if (line.add(text) && line.add(" "))
-        return SDP_OA_SUCCESS;
-    return fail_as_truncated(origin_size);
+    line.add(' ');
+    return SDP_OA_SUCCESS;
 }
 
-uint32_t add_username(heap_text &line, const sdp_container &container)
+// A line has room for all that its fields can hold.
+uint32_t build_origin(text_writer &line, const sdp_container &container)
 {
-    const text_range username = field_text(container.origin_username);
-    if (username.length() >= origin_size) {
-        DAK_LOG("dak_app_oa_encode_origin:User name larger                        than alloc: %s\n",
-                container.origin_username);
-        return SDP_OA_TOO_LONG;
-    }
-    if (line.add(username) && line.add(" "))
-        return SDP_OA_SUCCESS;
-    return fail_as_truncated(origin_size);
-}
-
-uint32_t build_origin(heap_text &line, const sdp_container &container)
-{
-    uint32_t result = add_username(line, container);
-    if (result == SDP_OA_SUCCESS)
-        result = add_number(
-            line, container.origin_session_id,
-            "dak_app_oa_encode_origin:Insufficient                            length to fit Session Id: %d \n");
+    line.add(field_text(container.origin_username)).add(' ');
+    uint32_t result = add_number(
+        line, container.origin_session_id,
+        "dak_app_oa_encode_origin:Insufficient                            length to fit Session Id: %d \n");
     if (result == SDP_OA_SUCCESS)
         result = add_number(
             line, container.origin_session_version,
             "dak_app_oa_encode_origin:Insufficient                            length to fit Session version: %d\n");
     if (result != SDP_OA_SUCCESS)
         return result;
-    result = dak_app_oa_add_address_value(line.c_str(), origin_size - 1, &container.origin_address);
+    result = add_address(line, container.origin_address);
     if (result != SDP_OA_SUCCESS)
         DAK_LOG("dak_app_oa_encode_origin: Invalid address type:                           %d\n",
                 static_cast<int>(container.origin_address.addr_type));
@@ -86,17 +71,17 @@ uint32_t build_origin(heap_text &line, const sdp_container &container)
 
 // What the builders of the s= and i= lines log.
 struct text_builder {
-    const char *tag;
+    session_slot slot;
     const char *no_memory;
     const char *refused;
 };
 
 // Named: for unnamed ones, some compilers keep templates that can be written to.
 constexpr text_builder name_builder = {
-    "s=", "dak_app_oa_encode_session:Malloc failed\n",
+    name_slot, "dak_app_oa_encode_session:Malloc failed\n",
     "dak_app_oa_encode_session:                                     Invalid session tag\n"};
 constexpr text_builder info_builder = {
-    "i=", "dak_app_oa_encode_info:Malloc failed \n",
+    information_slot, "dak_app_oa_encode_info:Malloc failed \n",
     "dak_app_oa_encode_info:Invalid SDP context                                              value\n"};
 
 uint32_t encode_text(sdp_lib_context *document, text_range value, const text_builder &builder)
@@ -106,9 +91,7 @@ uint32_t encode_text(sdp_lib_context *document, text_range value, const text_bui
         log_text(builder.no_memory);
         return SDP_OA_NO_MEMORY;
     }
-    if (!text.add(value))
-        return fail_as_truncated(text.size());
-    return store(document, builder.tag, text.c_str(), builder.refused);
+    return store(document, builder.slot, text.writer().add(value).text(), builder.refused);
 }
 
 uint32_t encode_direction(sdp_lib_context *document, const sdp_container &container, bool &is_refused)
@@ -119,7 +102,7 @@ uint32_t encode_direction(sdp_lib_context *document, const sdp_container &contai
                 static_cast<int>(container.direction));
         return SDP_OA_INVALID_CONTENT;
     }
-    is_refused = store(document, "a=", direction->text.c_str(),
+    is_refused = store(document, attribute_slot, direction->text,
                        "dak_app_oa_encode_gen_attr:                              Invalid attr tag\n") !=
                  SDP_OA_SUCCESS;
     return SDP_OA_SUCCESS;
@@ -169,8 +152,8 @@ uint32_t encode_groups(sdp_lib_context *document, const sdp_container &container
         const uint32_t result = build_group(text, container, container.groups[i]);
         if (result != SDP_OA_SUCCESS)
             return result;
-        is_refused =
-            store(document, "a=", text.c_str(), "encode_gen_attr: Invalid attr tag\n") != SDP_OA_SUCCESS;
+        is_refused = store(document, attribute_slot, text.text(), "encode_gen_attr: Invalid attr tag\n") !=
+                     SDP_OA_SUCCESS;
     }
     return SDP_OA_SUCCESS;
 }
@@ -217,7 +200,7 @@ uint32_t dak_app_oa_encode_version(sdp_lib_context *document, const sdp_containe
         return SDP_OA_INVALID_CONTENT;
     }
     return store(
-        document, "v=", "0",
+        document, version_slot, "0",
         "dak_app_oa_encode_version: Invalid version                                                       info\n");
 }
 
@@ -225,17 +208,18 @@ uint32_t dak_app_oa_encode_origin(sdp_lib_context *document, const sdp_container
 {
     if (!are_given(document, container, "dak_app_oa_encode_origin: Incorrect params\n"))
         return SDP_OA_BAD_PARAMETERS;
-    heap_text line(origin_size);
-    if (!line.is_allocated()) {
+    heap_text room(origin_size);
+    if (!room.is_allocated()) {
         DAK_LOG(
             "dak_app_oa_encode_origin:Malloc failed                                                    \n");
         return SDP_OA_NO_MEMORY;
     }
+    text_writer line = room.writer();
     const uint32_t result = build_origin(line, *container);
     if (result != SDP_OA_SUCCESS)
         return result;
     return store(
-        document, "o=", line.c_str(),
+        document, origin_slot, line.text(),
         "dak_app_oa_encode_origin:Invalid origin                                                 info \n");
 }
 
@@ -244,7 +228,7 @@ uint32_t dak_app_oa_encode_session(sdp_lib_context *document, const sdp_containe
     if (!are_given(document, container, "dak_app_oa_encode_session: Incorrect params\n"))
         return SDP_OA_BAD_PARAMETERS;
     if (container->session_name_present == 0)
-        return store(document, "s=", "-",
+        return store(document, name_slot, "-",
                      "dak_app_oa_encode_session:                              Invalid session tag\n");
     return encode_text(document, field_text(container->session_name), name_builder);
 }
@@ -262,8 +246,8 @@ uint32_t dak_app_oa_encode_bw(sdp_lib_context *document, const sdp_container *co
 {
     if (!are_given(document, container, "dak_app_oa_encode_bw: Incorrect params\n"))
         return SDP_OA_BAD_PARAMETERS;
-    const auto store_line = [document](const char *text) {
-        return set_session_value(document, SDP_ENCODER_DOCUMENT, "b=", text);
+    const auto store_line = [document](text_range text) {
+        return set_session_value(document, bandwidth_slot, text);
     };
     // The session's log text names the first entry, whichever is wrong.
     return encode_bandwidth(container->bandwidth, store_line, [](int) { return 0; });
@@ -276,20 +260,20 @@ uint32_t dak_app_oa_encode_connection(sdp_lib_context *document, const sdp_conta
     if (container->connection_present == 0)
         return SDP_OA_SUCCESS;
     constexpr size_t types_size = sizeof "IN IP4 ";
-    heap_text text(field_text(container->connection.address).length() + types_size);
-    if (!text.is_allocated()) {
+    heap_text room(field_text(container->connection.address).length() + types_size);
+    if (!room.is_allocated()) {
         DAK_LOG("dak_app_oa_encode_connection:Malloc failed\n");
         return SDP_OA_NO_MEMORY;
     }
-    const uint32_t result = dak_app_oa_add_address_value(text.c_str(), static_cast<uint16_t>(text.size()),
-                                                         &container->connection);
+    text_writer text = room.writer();
+    const uint32_t result = add_address(text, container->connection);
     if (result != SDP_OA_SUCCESS) {
         DAK_LOG(
             "dak_app_oa_encode_connection:Invalid address                                                  info\n");
         return result;
     }
     return store(
-        document, "c=", text.c_str(),
+        document, connection_slot, text.text(),
         "dak_app_oa_encode_connection:Invalid connection                                                  info\n");
 }
 
@@ -299,10 +283,10 @@ uint32_t dak_app_oa_encode_time(sdp_lib_context *document, const sdp_container *
         return SDP_OA_BAD_PARAMETERS;
     if (container->time_present == 0)
         return SDP_OA_SUCCESS;
-    built_text<time_size> text;
-    if (!text.add_number(container->start_time).add(' ').add_number(container->stop_time).fits())
-        return fail_as_truncated(time_size);
-    return store(document, "t=", text.c_str(), "dak_app_oa_encode_time: Invalid time info\n");
+    char room[time_size]; // two numbers always fit
+    text_writer text(room);
+    text.add_number(container->start_time).add(' ').add_number(container->stop_time);
+    return store(document, time_slot, text.text(), "dak_app_oa_encode_time: Invalid time info\n");
 }
 
 uint32_t dak_app_oa_encode_gen_attr(sdp_lib_context *document, const sdp_container *container)
@@ -335,6 +319,6 @@ uint32_t dak_app_oa_encode_message_attr(sdp_lib_context *document, const sdp_con
     const uint32_t result = build_accept(text, *container, mline->accept_types);
     if (result != SDP_OA_SUCCESS)
         return result;
-    return store(document, "a=", text.c_str(),
+    return store(document, attribute_slot, text.text(),
                  "dak_app_oa_encode_gen_attr:                            Invalid attr tag\n");
 }

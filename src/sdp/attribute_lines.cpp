@@ -1,5 +1,6 @@
 #include "sdp/attribute_lines.h"
 
+#include "sdp/attribute_lines.hpp"
 #include "sdp/attribute_nodes.hpp"
 #include "sdp/document.hpp"
 #include "sdp/line_match.h"
@@ -9,7 +10,6 @@
 #include "util/scan.hpp"
 #include "util/token.h"
 #include "util/token.hpp"
-#include "util/trim.h"
 
 using namespace dak;
 
@@ -74,16 +74,21 @@ bool first_attribute_matches(const sdp_info_container &document, const char *nam
 
 } // namespace
 
+int dak::set_attribute(media_description &description, text_range name, const text_range *value)
+{
+    session_value *node = append_attribute(description, name, value);
+    if (node == nullptr)
+        return 0;
+    const size_t length = name.length() + (value != nullptr ? 1 + value->length() : 0);
+    return copy_text(node->text, text_range(node->text, length).trimmed());
+}
+
 int set_media_description_attribute(media_description *description, const char *name, const char *value)
 {
     if (description == nullptr || name == nullptr)
         return fail();
     const text_range given = value != nullptr ? value : "";
-    session_value *node = append_attribute(*description, name, value != nullptr ? &given : nullptr);
-    if (node == nullptr)
-        return 0;
-    dak_remove_both_space(node->text);
-    return 1;
+    return set_attribute(*description, name, value != nullptr ? &given : nullptr);
 }
 
 int get_media_description_attribute(const media_description *description, const char *name, char *destination)
@@ -104,13 +109,13 @@ int dak_encode_media_attribute(sdp_lib_context *context, media_description *desc
     if (context == nullptr || description == nullptr)
         return fail();
     for (const session_value *node = description->attributes; node != nullptr; node = node->next) {
-        line_builder line;
+        sdp_line line(context);
         line.add("a=").add(node->text).add("\r\n");
-        if (!line.fits()) {
+        if (line.is_too_long()) {
             DAK_LOG("len of str printed exceeded dst str len%d \n", 200);
             return fail();
         }
-        if (!append_sdp_text(context, line.text()))
+        if (!line.write())
             return fail();
     }
     return 1;

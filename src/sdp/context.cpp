@@ -72,7 +72,8 @@ sdp_lib_context *dak::open_encoding_context()
         return fail_null();
     block->context = {&block->document, nullptr, &block->text};
     empty(&block->document);
-    init_sdp_encoder(&block->context);
+    block->text.length = 0;
+    block->text.text[0] = '\0';
     return &block->context;
 }
 

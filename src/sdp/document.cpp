@@ -15,6 +15,15 @@ constexpr size_t tag_length = 2;
 constexpr const char *session_tags[SDP_SESSION_SLOTS] = {
     "v=", "o=", "s=", "i=", "u=", "e=", "p=", "c=", "b=", "t=", "r=", "z=", "k=", "a="};
 
+bool is_owned(const sdp_info_container &document, const media_description *description)
+{
+    for (const media_description *place : document.media_descriptions) {
+        if (place == description)
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 sdp_info_container *dak::selected_document(const sdp_lib_context *context, int selector)
@@ -61,29 +70,29 @@ int clean_sdp_info_container(sdp_info_container *document)
         return fail();
     for (int slot = 0; slot < SDP_SESSION_SLOTS; slot++)
         free_values(document->extra_values[slot], document->extra_tail[slot]);
-    int cleaned = 0;
+    const bool is_full = document->media_descriptions[SDP_MAX_MEDIA_DESCRIPTIONS - 1] != nullptr;
     for (media_description *&description : document->media_descriptions) {
-        cleaned = description != nullptr ? clean_media_description(description) : 0;
+        if (description == nullptr)
+            continue;
+        clean_media_description(description);
         description = nullptr;
     }
-    return cleaned;
+    return is_full;
 }
 
 int add_media_description(sdp_info_container *document, media_description *description)
 {
     if (document == nullptr || description == nullptr)
         return fail();
-    media_description **free_place = nullptr;
+    if (is_owned(*document, description))
+        return fail(); // a second place would free it twice
     for (media_description *&place : document->media_descriptions) {
-        if (place == description)
-            return fail(); // owned already: a second place would free it twice
-        if (place == nullptr && free_place == nullptr)
-            free_place = &place;
+        if (place != nullptr)
+            continue;
+        place = description;
+        return 1;
     }
-    if (free_place == nullptr)
-        return fail();
-    *free_place = description;
-    return 1;
+    return fail();
 }
 
 int add_media_description_to_sdp_container(sdp_info_container *document, media_description *description)

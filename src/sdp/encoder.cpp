@@ -4,7 +4,7 @@
 #include "attr/message_session.h"
 #include "attr/precondition.h"
 #include "attr/rtcp_fb.h"
-#include "codec/registry.h"
+#include "codec/parameters.hpp"
 #include "sdp/attribute_lines.h"
 #include "sdp/codec_access.hpp"
 #include "sdp/document.h"
@@ -20,60 +20,37 @@ namespace {
 
 constexpr uint16_t first_dynamic_payload = 96;
 
-int append_line(sdp_lib_context *context, text_range tag, text_range value)
-{
-    return append_sdp_text(context, tag) && append_sdp_text(context, value) &&
-           append_sdp_text(context, "\r\n");
-}
-
 int encode_slot(sdp_lib_context *context, const sdp_info_container &document, int slot)
 {
-    const text_range tag = field_text(document.type_tags[slot]);
-    if (!append_line(context, tag, field_text(document.values[slot])))
+    const text_range tag = short_field_text(document.type_tags[slot]);
+    if (!append_sdp_line(context->text_buffer, tag, field_text(document.values[slot])))
         return 0;
     for (const session_value *node = document.extra_values[slot]; node != nullptr; node = node->next) {
-        if (!append_line(context, tag, field_text(node->text)))
+        if (!append_sdp_line(context->text_buffer, tag, field_text(node->text)))
             return 0;
     }
     return 1;
 }
 
-// Lets a line builder's overflow end the m= line with its report.
-int append_m_line(sdp_lib_context *context, const line_builder &line)
+int encode_rtpmap(sdp_lib_context *context, uint16_t payload_number, text_range name, uint32_t sample_rate)
 {
-    if (!line.fits()) {
-        DAK_LOG("src str len exceeds dest str len %d\n", 200);
-        return fail();
-    }
-    return append_sdp_text(context, line.text()) ? 1 : fail();
-}
-
-int encode_rtpmap(sdp_lib_context *context, const media_codec &codec, uint16_t payload_number)
-{
-    line_builder line;
-    line.add("a=rtpmap:").add_number(payload_number).add(' ').add(field_text(codec.mime_type)).add('/');
-    line.add_signed(static_cast<int32_t>(codec.sample_rate)).add("\r\n");
-    if (!line.fits()) {
+    sdp_line line(context);
+    line.add("a=rtpmap:").add_number(payload_number).add(' ').add(name).add('/');
+    line.add_signed(static_cast<int32_t>(sample_rate)).add("\r\n");
+    if (line.is_too_long()) {
         DAK_LOG("len of str printed exceeded dst str len%d \n", 200);
         return fail();
     }
-    return append_sdp_text(context, line.text()) ? 1 : fail();
+    return line.write() ? 1 : fail();
 }
 
-int encode_fmtp(sdp_lib_context *context, media_description *description, int index)
+int encode_fmtp(sdp_lib_context *context, uint16_t payload_number, text_range name, media_codec &codec)
 {
-    uint32_t mime = 0;
-    if (!dak_sdp_get_mime_val(description->codecs[index].mime_type, &mime) ||
-        dak_g_encoder_func_ptr[mime] == nullptr)
-        return 1;
-    return dak_g_encoder_func_ptr[mime](context, description, index) ? 1 : fail();
+    const codec_kind *kind = find_kind(name);
+    return kind == nullptr || write_fmtp_line(context, payload_number, codec, *kind) ? 1 : fail();
 }
 
-bool has_writable_name(const media_codec &codec)
-{
-    const text_range name = field_text(codec.mime_type);
-    return !name.empty() && !name.equals("NULL");
-}
+bool is_writable(text_range name) { return !name.empty() && !name.equals("NULL"); }
 
 int encode_payloads(sdp_lib_context *context, media_description *description)
 {
@@ -223,7 +200,7 @@ int dak_sdp_encode_m_equal(sdp_lib_context *context, media_description *descript
     if (context == nullptr || description == nullptr || description->number_of_media_port == 0)
         return fail();
     const text_range profile = field_text(description->transport_profile);
-    line_builder line;
+    sdp_line line(context);
     line.add("m=").add(field_text(description->media_type)).add(' ');
     line.add_signed(static_cast<int32_t>(description->media_port));
     if (description->number_of_media_port >= 2)
@@ -233,21 +210,28 @@ int dak_sdp_encode_m_equal(sdp_lib_context *context, media_description *descript
         line.add(' ').add_signed(description->payload_numbers[i]);
     if (profile.equals("TCP/MSRP"))
         line.add(" *");
-    return append_m_line(context, line.add("\r\n"));
+    line.add("\r\n");
+    if (line.is_too_long()) {
+        DAK_LOG("src str len exceeds dest str len %d\n", 200);
+        return fail();
+    }
+    return line.write() ? 1 : fail();
 }
 
 int dak_sdp_encode_media_codec(sdp_lib_context *context, media_description *description, int index)
 {
     if (context == nullptr || description == nullptr)
         return fail();
-    const media_codec *codec = codec_at(description, index);
+    media_codec *codec = codec_at(description, index);
     if (codec == nullptr)
         return 1; // reported; a number without a codec stands in the m= line alone
     const auto payload_number = static_cast<uint16_t>(description->payload_numbers[index]);
     if (codec->rtpmap_valid == 1) {
-        if (!has_writable_name(*codec))
+        const text_range name = field_text(codec->mime_type);
+        if (!is_writable(name))
             return 1;
-        if (!encode_rtpmap(context, *codec, payload_number) || !encode_fmtp(context, description, index))
+        if (!encode_rtpmap(context, payload_number, name, codec->sample_rate) ||
+            !encode_fmtp(context, payload_number, name, *codec))
             return 0;
     }
     if (payload_number >= first_dynamic_payload && codec->rtpmap_valid == 0)

@@ -1,7 +1,8 @@
 #include "sdp/media_codecs.h"
 
-#include "codec/registry.h"
+#include "codec/parameters.hpp"
 #include "sdp/codec_access.hpp"
+#include "sdp/media_codecs.hpp"
 #include "sdp/media_description.hpp"
 #include "util/bounded_text.hpp"
 #include "util/report.hpp"
@@ -25,14 +26,6 @@ int find_codec(const media_description *description, int32_t payload_number)
     return index != not_found && has_codec(*description, index) ? index : fail_to_find();
 }
 
-int initialise_record(media_codec &codec)
-{
-    uint32_t mime = 0;
-    if (!dak_sdp_get_mime_val(codec.mime_type, &mime) || dak_g_init_media_codec[mime] == nullptr)
-        return 1;
-    return dak_g_init_media_codec[mime](&codec);
-}
-
 // A field that an a=rtpmap line gives; 0 without one.
 uint32_t rtpmap_field_at(const media_description *description, int index, uint32_t media_codec::*field)
 {
@@ -41,6 +34,21 @@ uint32_t rtpmap_field_at(const media_description *description, int index, uint32
 }
 
 } // namespace
+
+int dak::set_rtpmap(media_codec &codec, text_range encoding_name, uint32_t clock_rate,
+                    uint32_t encoding_param)
+{
+    codec.rtpmap_valid = 1;
+    codec.sample_rate = clock_rate;
+    codec.encoding_param = encoding_param;
+    if (!copy_text(codec.mime_type, encoding_name)) {
+        DAK_LOG("Src str length exceeded dst str %d \n", static_cast<int>(sizeof codec.mime_type));
+        return fail();
+    }
+    if (const codec_kind *kind = find_kind({codec.mime_type, encoding_name.length()}); kind != nullptr)
+        prepare_parameters(codec, *kind);
+    return 1;
+}
 
 int set_payload_number(media_description *description, int32_t payload_number)
 {
@@ -71,15 +79,8 @@ int add_media_codec_to_media_description(media_description *description, int32_t
     const int index = find_codec(description, payload_number);
     if (index == not_found)
         return not_found;
-    media_codec &codec = description->codecs[index];
-    codec.rtpmap_valid = 1;
-    codec.sample_rate = clock_rate;
-    codec.encoding_param = encoding_param;
-    if (!copy_text(codec.mime_type, encoding_name != nullptr ? encoding_name : "")) {
-        DAK_LOG("Src str length exceeded dst str %d \n", static_cast<int>(sizeof codec.mime_type));
-        return fail_to_find();
-    }
-    return initialise_record(codec) ? index : fail_to_find();
+    const text_range name = encoding_name != nullptr ? encoding_name : "";
+    return set_rtpmap(description->codecs[index], name, clock_rate, encoding_param) ? index : not_found;
 }
 
 int add_media_rtpmap_valid_to_media_description(media_description *description, int32_t payload_number,

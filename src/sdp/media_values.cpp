@@ -1,5 +1,6 @@
 #include "sdp/media_values.h"
 
+#include "sdp/media_values.hpp"
 #include "sdp/text_buffer.hpp"
 #include "util/bounded_text.hpp"
 #include "util/line_scan.h"
@@ -37,32 +38,36 @@ template <typename Matches> int find_free_slot(const media_description &descript
 
 int append_field(sdp_lib_context *context, const media_description &description, int slot)
 {
-    return append_sdp_text(context, field_text(description.media_value_tags[slot])) &&
-           append_sdp_text(context, field_text(description.media_values[slot])) &&
-           append_sdp_text(context, "\r\n");
+    return append_sdp_line(context->text_buffer, short_field_text(description.media_value_tags[slot]),
+                           field_text(description.media_values[slot]));
 }
 
 } // namespace
 
-int dak_sdp_set_media_value(media_description *description, const char *type, const char *value)
+int dak::set_media_line(media_description &description, const char *type, text_range value)
 {
-    if (description == nullptr || type == nullptr || value == nullptr)
-        return fail();
     const text_range tag(type);
-    const int slot = find_free_slot(*description, [description, tag](int candidate) {
-        return equal_ignoring_case(description->media_value_tags[candidate], tag);
+    const int slot = find_free_slot(description, [&description, tag](int candidate) {
+        return equal_ignoring_case(description.media_value_tags[candidate], tag);
     });
     if (slot == no_slot) {
         DAK_LOG("No entry found for the tag %s \n", type);
         return fail();
     }
-    if (!copy_text(description->media_values[slot], value)) {
+    if (!copy_text(description.media_values[slot], value)) {
         DAK_LOG("src str len exceeds dest str len %lu\n",
-                static_cast<unsigned long>(sizeof description->media_values[slot]));
+                static_cast<unsigned long>(sizeof description.media_values[slot]));
         return fail();
     }
-    description->media_value_present[slot] = 1;
+    description.media_value_present[slot] = 1;
     return 1;
+}
+
+int dak_sdp_set_media_value(media_description *description, const char *type, const char *value)
+{
+    if (description == nullptr || type == nullptr || value == nullptr)
+        return fail();
+    return set_media_line(*description, type, value);
 }
 
 int parse_media_description_value(media_description *description, const char *line_start,

@@ -3,6 +3,7 @@
 #include "sdp/document.h"
 #include "sdp/document.hpp"
 #include "sdp/line_match.h"
+#include "sdp/session_values.hpp"
 #include "sdp/value_list.hpp"
 #include "util/bounded_text.hpp"
 #include "util/line_scan.h"
@@ -24,7 +25,7 @@ int fail_as_too_long()
 
 int find_slot_ignoring_case(const sdp_info_container &document, text_range tag)
 {
-    for (int slot = 0; slot < get_total_session_number_tag(); slot++) {
+    for (int slot = 0; slot < SDP_SESSION_SLOTS; slot++) {
         if (equal_ignoring_case(document.type_tags[slot], tag))
             return slot;
     }
@@ -48,6 +49,12 @@ int store(sdp_info_container &document, int slot, text_range value)
 }
 
 } // namespace
+
+int dak::set_session_value(sdp_lib_context *context, session_slot slot, text_range value)
+{
+    sdp_info_container *document = selected_document(context, SDP_ENCODER_DOCUMENT);
+    return document != nullptr ? store(*document, slot, value) : 0;
+}
 
 int set_session_value(sdp_lib_context *context, int selector, const char *tag, const char *value)
 {

@@ -22,82 +22,82 @@ template <size_t N> bool copy_text(char (&field)[N], text_range source)
     return copy_text(field, N, source);
 }
 
-// The decimal digits of a number, for appending.
-class decimal {
+// Writes the digits of a number behind the first `length` characters of `size`, the terminator included, if they fit,
+// and gives the length with them.
+size_t append_decimal(char *room, size_t size, size_t length, uint64_t number);
+
+// Writes pieces one behind the other into room that somebody else owns. A piece that does not fit is left out with
+// all that follow it, but counted.
+class text_writer {
 public:
-    explicit decimal(uint64_t number) : decimal(number, false) {}
-    static decimal of_signed(int64_t number)
+    // `size` counts the terminator.
+    text_writer(char *room, size_t size) : room_(room), size_(size) {}
+    template <size_t Size> explicit text_writer(char (&room)[Size]) : text_writer(room, Size) {}
+
+    text_writer &add(text_range piece)
     {
-        return number < 0 ? decimal(0 - static_cast<uint64_t>(number), true)
-                          : decimal(static_cast<uint64_t>(number));
-    }
-    text_range text() const { return {digits_ + start_, sizeof digits_ - start_}; }
-
-private:
-    decimal(uint64_t magnitude, bool negative);
-
-    size_t start_ = sizeof digits_;
-    char digits_[20]; // "-9223372036854775808"
-};
-
-// Builds a terminated text of fewer than `Size` characters. A piece that does not fit is left out with all
-// that follow it.
-template <size_t Size> class built_text {
-public:
-    built_text() { text_[0] = '\0'; }
-
-    built_text &add(text_range piece)
-    {
-        fits_ = fits_ && piece.length() < Size - length_;
-        if (fits_) {
-            memcpy(text_ + length_, piece.first, piece.length());
-            length_ += piece.length();
-            text_[length_] = '\0';
-        }
+        const size_t end = length_ + piece.length();
+        if (end < size_)
+            memcpy(room_ + length_, piece.first, piece.length());
+        length_ = end;
         return *this;
     }
-    built_text &add(char c)
+    text_writer &add(char c)
     {
-        fits_ = fits_ && Size - length_ > 1;
-        if (fits_)
-            append(text_ + length_++, c);
+        if (length_ + 1 < size_)
+            room_[length_] = c;
+        length_++;
         return *this;
     }
-    built_text &add_number(uint64_t number) { return add(decimal(number).text()); }
-    built_text &add_signed(int64_t number) { return add(decimal::of_signed(number).text()); }
+    text_writer &add_number(uint64_t number)
+    {
+        length_ = append_decimal(room_, size_, length_, number);
+        return *this;
+    }
+    text_writer &add_signed(int64_t number)
+    {
+        const auto magnitude = static_cast<uint64_t>(number);
+        return number < 0 ? add('-').add_number(0 - magnitude) : add_number(magnitude);
+    }
 
     // Takes the last character off, if there is one.
-    void drop_last()
-    {
-        length_ -= length_ > 0;
-        text_[length_] = '\0';
-    }
+    void drop_last() { length_ -= length_ > 0; }
 
-    bool fits() const { return fits_; }
+    bool fits() const { return length_ < size_; }
+    // Of all that was added.
     size_t length() const { return length_; }
-    const char *c_str() const { return text_; }
-    text_range text() const { return {text_, length_}; }
+    // Empty for a text that does not fit.
+    text_range text() const { return {room_, fits() ? length_ : 0}; }
+    void terminate() { room_[text().length()] = '\0'; }
+    const char *c_str()
+    {
+        terminate();
+        return room_;
+    }
 
 private:
-    static void append(char *end, char c)
-    {
-        end[0] = c;
-        end[1] = '\0';
-    }
-
+    char *room_;
+    size_t size_;
     size_t length_ = 0;
-    bool fits_ = true;
+};
+
+// A text of fewer than `Size` characters with its own room.
+template <size_t Size> class built_text : public text_writer {
+public:
+    built_text() : text_writer(text_, Size) {}
+    explicit built_text(text_range beginning) : built_text() { add(beginning); }
+    built_text(const built_text &) = delete;
+    built_text &operator=(const built_text &) = delete;
+
+private:
     char text_[Size];
 };
 
 // A field as a terminated text, whether the field is terminated or not.
 template <size_t N> built_text<N + 1> terminated(const char (&field)[N])
 {
-    return built_text<N + 1>().add(field_text(field));
+    return built_text<N + 1>(field_text(field));
 }
-
-// One line, or one piece of it, on its way to the text buffer.
-using line_builder = built_text<200>;
 
 } // namespace dak
 

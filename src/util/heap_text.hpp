@@ -2,8 +2,8 @@
 #ifndef DAKSDP_UTIL_HEAP_TEXT_HPP
 #define DAKSDP_UTIL_HEAP_TEXT_HPP
 
+#include "util/bounded_text.hpp"
 #include "util/report.hpp"
-#include "util/text_range.hpp"
 
 namespace dak {
 
@@ -22,6 +22,9 @@ public:
     bool is_allocated() const { return text_ != nullptr; }
     char *c_str() { return text_; }
     size_t size() const { return size_; }
+
+    // What is written this way is not counted by add().
+    text_writer writer() { return {text_, size_}; }
 
     // Appends a piece; false when it does not fit, with nothing appended.
     bool add(text_range piece)

@@ -112,12 +112,10 @@ int dak_i64toa(int64_t value, char *destination, uint32_t size)
 {
     if (destination == nullptr || size == 0)
         return 0;
-    memset(destination, 0, size);
-    const decimal digits = decimal::of_signed(value);
-    if (digits.text().length() >= size)
-        return 0;
-    copy_text(destination, size, digits.text());
-    return 1;
+    text_writer text(destination, size);
+    const size_t kept = text.add_signed(value).text().length();
+    memset(destination + kept, 0, size - kept);
+    return text.fits();
 }
 
 int32_t dak::read_saturating(text_range text)

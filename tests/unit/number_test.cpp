@@ -33,7 +33,10 @@ TEST_F(Number, signed_64_bit_numbers_are_read_to_their_limits)
 
 TEST_F(Number, signed_64_bit_numbers_are_written_with_room_for_the_terminator)
 {
-    for (const int64_t number : {int64_t(-120), int64_t(0), INT64_MAX, INT64_MIN}) {
+    std::vector<int64_t> numbers = {-120, INT64_MAX, INT64_MIN};
+    for (int64_t power = 1; power < INT64_MAX / 10; power *= 10)
+        numbers.insert(numbers.end(), {power - 1, power});
+    for (const int64_t number : numbers) {
         const std::string text = std::to_string(number);
         for (const std::size_t size : {std::size_t(25), text.size() + 1, text.size()}) {
             const heap_text out(std::string(size, '?'));

@@ -150,9 +150,9 @@ int dak_app_sdp_encode_amr_mode_map(char *out, uint32_t mode_map)
         DAK_LOG("dak_app_sdp_encode_amr_mode_map:Bad buffer\n");
         return 0;
     }
-    mode_text modes;
+    text_writer modes(out, list_size);
     const bool fits = add_modes(modes, mode_map) < 0;
-    copy_text(out, list_size, modes.text());
+    modes.terminate();
     if (!fits)
         fail_as_truncated(list_size);
     return fits;

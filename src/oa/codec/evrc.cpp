@@ -335,9 +335,9 @@ int dak_app_sdp_encode_evrc_mode(char *out, uint8_t mode_map)
         DAK_LOG("dak_app_sdp_encode_evrc_mode:Bad buffer\n");
         return 0;
     }
-    mode_text modes;
+    text_writer modes(out, list_size);
     const int overflowed = add_modes(modes, mode_map);
-    copy_text(out, list_size, modes.text());
+    modes.terminate();
     if (overflowed < 0)
         return 1;
     if (overflowed != 3) {

@@ -32,22 +32,41 @@ parameter_writer::parameter_writer(media_description *md, uint16_t codec_index)
     : codec_(has_codec(*md, codec_index) ? &md->codecs[codec_index] : nullptr),
       kind_(codec_ != nullptr ? find_kind(*codec_) : nullptr)
 {
+    if (kind_ != nullptr && kind_->count == 0)
+        kind_ = nullptr;
 }
 
 void parameter_writer::set_integer(int32_t value, text_range name)
 {
-    set(decimal::of_signed(value).text(), name, invalid_integer);
+    if (char *room = room_for(name, invalid_integer); room != nullptr)
+        text_writer(room, number_size).add_signed(value).terminate();
 }
 
-void parameter_writer::set_flag(bool value, text_range name) { set(value ? "1" : "0", name, invalid_flag); }
+void parameter_writer::set_flag(bool value, text_range name)
+{
+    if (char *room = room_for(name, invalid_flag); room != nullptr)
+        text_writer(room, number_size).add(value ? '1' : '0').terminate();
+}
 
-void parameter_writer::set_text(text_range value, text_range name) { set(value, name, invalid_text); }
+void parameter_writer::set_text(text_range value, text_range name)
+{
+    if (kind_ == nullptr || !set_parameter(*codec_, *kind_, name, value))
+        refuse(invalid_text);
+}
+
+char *parameter_writer::room_for(text_range name, const char *failure)
+{
+    if (kind_ != nullptr)
+        return set_parameter_room(*codec_, *kind_, name);
+    refuse(failure);
+    return nullptr;
+}
 
 // Asking for a format that is not there is reported.
-void parameter_writer::set(text_range value, text_range name, const char *failure)
+void parameter_writer::refuse(const char *failure)
 {
-    if (codec_ == nullptr ? fail() : kind_ != nullptr && set_parameter(*codec_, *kind_, name, value))
-        return;
+    if (codec_ == nullptr)
+        dak_assert_failed();
     log_text(failure);
     result_ = SDP_OA_INVALID_CONTENT;
 }

@@ -40,10 +40,11 @@ private:
     void set_integer(int32_t value, text_range name);
     void set_flag(bool value, text_range name);
     void set_text(text_range value, text_range name);
-    void set(text_range value, text_range name, const char *failure);
+    char *room_for(text_range name, const char *failure);
+    void refuse(const char *failure);
 
-    media_codec *codec_; // null for a format that is not there
-    const codec_kind *kind_;
+    media_codec *codec_;     // null for a format that is not there
+    const codec_kind *kind_; // null for one that has no parameters, too
     uint32_t result_ = SDP_OA_SUCCESS;
 };
 

@@ -48,20 +48,19 @@ constexpr submode submodes[] = {{"K", &h263_params::k_present, &h263_params::k},
 
 uint32_t unsigned_of(int16_t value) { return static_cast<uint32_t>(value); }
 
-// The "CUSTOM" text; its three numbers always fit.
-built_text<list_size> custom_text(const h263_params &params)
+void write_custom(parameter_writer &writer, const h263_params &params)
 {
-    built_text<list_size> text;
+    built_text<list_size> text; // three numbers always fit
     text.add_signed(params.custom_x)
         .add(',')
         .add_signed(params.custom_y)
         .add(',')
         .add_signed(params.custom_mpi);
-    return text;
+    writer.text(true, text.text(), "CUSTOM");
 }
 
-// The "P" text, of as many submodes as the block stores.
-built_text<list_size> submode_list(const h263_params &params)
+// Writes as many submodes as the block stores.
+void write_submodes(parameter_writer &writer, const h263_params &params)
 {
     built_text<list_size> text;
     for (uint32_t i = 0; i < params.p_count && i < most_submodes; i++) {
@@ -69,14 +68,15 @@ built_text<list_size> submode_list(const h263_params &params)
             text.add(',');
         text.add_number(params.p_modes[i]);
     }
-    return text;
+    writer.text(true, text.text(), "P");
 }
 
 void write_sizes(parameter_writer &writer, const h263_params &params)
 {
     for (const picture_size &size : picture_sizes)
         writer.integer(params.*size.is_present, unsigned_of(params.*size.value), size.name);
-    writer.text(params.custom_present, custom_text(params).text(), "CUSTOM");
+    if (params.custom_present != 0)
+        write_custom(writer, params);
     for (const annex &option : annexes)
         writer.flag(params.*option.is_set, 1, option.name);
     for (const submode &option : submodes)
@@ -85,10 +85,10 @@ void write_sizes(parameter_writer &writer, const h263_params &params)
 
 void write_options(parameter_writer &writer, const h263_params &params)
 {
-    const auto cpcf = terminated(params.cpcf);
-    writer.text(params.p_count != 0, submode_list(params).text(), "P")
-        .integer(params.par_present, unsigned_of(params.par), "PAR")
-        .text(params.cpcf_present, cpcf.text(), "CPCF")
+    if (params.p_count != 0)
+        write_submodes(writer, params);
+    writer.integer(params.par_present, unsigned_of(params.par), "PAR")
+        .text(params.cpcf_present, field_text(params.cpcf), "CPCF")
         .integer(params.bpp_present, unsigned_of(params.bpp), "BPP")
         .flag(params.hrd, 1, "HRD");
 }

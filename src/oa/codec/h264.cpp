@@ -51,18 +51,17 @@ uint32_t dak_app_sdp_encode_h264(media_description *md, uint16_t codec_index, vo
     const auto &h264 = *static_cast<const sdp_h264_params *>(block);
     if (h264.fmtp_present == 0)
         return SDP_OA_SUCCESS;
-    const auto profile = terminated(h264.profile_level_id);
-    const auto sets = terminated(h264.sprop_parameter_sets);
-    const auto level_sets = terminated(h264.sprop_level_parameter_sets);
     parameter_writer writer(md, codec_index);
     writer
         .integer(h264.packetization_mode_present, static_cast<uint32_t>(h264.packetization_mode),
                  "packetization-mode")
         .integer(h264.sprop_deint_buf_req_present, static_cast<uint32_t>(h264.sprop_deint_buf_req),
                  "sprop-deint-buf-req")
-        .text(h264.profile_level_id_present, profile.text(), "profile-level-id")
-        .text(h264.sprop_parameter_sets_present, sets.text(), "sprop-parameter-sets")
-        .text(h264.sprop_level_parameter_sets_present, level_sets.text(), "sprop-level-parameter-sets")
+        .text(h264.profile_level_id_present, field_text(h264.profile_level_id), "profile-level-id")
+        .text(h264.sprop_parameter_sets_present, field_text(h264.sprop_parameter_sets),
+              "sprop-parameter-sets")
+        .text(h264.sprop_level_parameter_sets_present, field_text(h264.sprop_level_parameter_sets),
+              "sprop-level-parameter-sets")
         .integer(h264.max_rcmd_nalu_size_present, h264.max_rcmd_nalu_size, "max-rcmd-nalu-size")
         .integer(h264.sar_understood_present, h264.sar_understood, "sar-understood")
         .integer(h264.sar_supported_present, h264.sar_supported, "sar-supported")

@@ -44,14 +44,27 @@ namespace {
 constexpr const char *mime_name(size_t row) { return mime_table[row].mime_name; }
 constexpr name_index<MIME_TABLE_ROWS> mime_names(mime_name);
 
+// The row of each key, or one behind the last row.
+struct key_index {
+    uint8_t rows[128];
+
+    constexpr key_index() : rows()
+    {
+        for (uint8_t &row : rows)
+            row = MIME_TABLE_ROWS;
+        for (uint8_t row = 0; row < MIME_TABLE_ROWS; row++)
+            rows[mime_table[row].payload_number] = row;
+    }
+};
+constexpr key_index mime_keys;
+
 } // namespace
 
 const sdp_mime_entry *dak_app_sdp_find_medentry_by_pt(uint32_t codec_key)
 {
-    for (const sdp_mime_entry &entry : mime_table) {
-        if (entry.payload_number == codec_key)
-            return &entry;
-    }
+    const uint32_t row = codec_key < sizeof mime_keys.rows ? mime_keys.rows[codec_key] : MIME_TABLE_ROWS;
+    if (row < MIME_TABLE_ROWS)
+        return &mime_table[row];
     DAK_LOG("dak_app_sdp_find_medentry_by_pt:                             No match found for Mime\n");
     return nullptr;
 }

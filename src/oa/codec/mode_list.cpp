@@ -7,7 +7,7 @@
 
 namespace dak {
 
-int add_modes(mode_text &list, uint32_t mode_map)
+int add_modes(text_writer &list, uint32_t mode_map)
 {
     for (int mode = 0; mode <= 7; mode++) {
         if ((mode_map & (uint32_t{1} << mode)) == 0)

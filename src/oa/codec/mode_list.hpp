@@ -8,8 +8,6 @@
 
 namespace dak {
 
-using mode_text = built_text<256>;
-
 // What a codec's mode lists may hold.
 struct mode_list_rule {
     uint32_t highest_mode;
@@ -18,7 +16,7 @@ struct mode_list_rule {
 };
 
 // Adds modes 0 to 7 of a map; gives the mode that did not fit, or -1.
-int add_modes(mode_text &list, uint32_t mode_map);
+int add_modes(text_writer &list, uint32_t mode_map);
 
 // Reads a list: one digit a token, further modes than the rule's most ignored. `is_present` becomes 1 unless
 // a token could not be read or there is none. Gives 0; 1 for too long a text, 4 for too high a mode, both

@@ -14,20 +14,19 @@ namespace {
 
 constexpr size_t list_size = 256;
 constexpr delimiter_set delimiters = ",;";
-using event_list = built_text<list_size>;
 
 // A single event is written as the 32-bit word that both of its halves make.
-void add_single(event_list &list, const sdp_tel_event_entry &entry)
+void add_single(text_writer &list, const sdp_tel_event_entry &entry)
 {
     list.add_number(entry.first | static_cast<uint32_t>(entry.last) << 16).add(',');
 }
 
-void add_range(event_list &list, const sdp_tel_event_entry &entry)
+void add_range(text_writer &list, const sdp_tel_event_entry &entry)
 {
     list.add_number(entry.first).add('-').add_number(entry.last).add(',');
 }
 
-uint32_t add_entry(event_list &list, const sdp_tel_event_entry &entry)
+uint32_t add_entry(text_writer &list, const sdp_tel_event_entry &entry)
 {
     if (entry.kind == SDP_TEL_EVENT_SINGLE) {
         add_single(list, entry);
@@ -69,6 +68,21 @@ bool read_entry(text_range token, sdp_tel_event_entry &entry)
     return true;
 }
 
+// Writes the events, and counts them.
+uint32_t write_events(text_writer &list, const sdp_tel_event_params &tel_event, uint16_t &count)
+{
+    for (const sdp_tel_event_entry &entry : tel_event.events) {
+        if (entry.kind == SDP_TEL_EVENT_END)
+            break;
+        const uint32_t result = add_entry(list, entry);
+        if (result != SDP_OA_SUCCESS)
+            return result;
+        count++;
+    }
+    list.drop_last();
+    return SDP_OA_SUCCESS;
+}
+
 } // namespace
 
 uint32_t dak_app_sdp_encode_tel_event(media_description *md, uint16_t codec_index, void *block)
@@ -80,12 +94,13 @@ uint32_t dak_app_sdp_encode_tel_event(media_description *md, uint16_t codec_inde
     const auto &tel_event = *static_cast<const sdp_tel_event_params *>(block);
     if (tel_event.fmtp_present != 1 || tel_event.events_present == 0)
         return SDP_OA_SUCCESS;
-    char list[list_size];
+    char room[list_size];
+    text_writer list(room);
     uint16_t count = 0;
-    const uint32_t result = dak_app_sdp_encode_dtmf_tel_event_tag(&tel_event, list, &count);
+    const uint32_t result = write_events(list, tel_event, count);
     if (result != SDP_OA_SUCCESS || count == 0)
         return result;
-    return dak_app_sdp_set_string_inmline(md, codec_index, list, "events");
+    return dak_app_sdp_set_string_inmline(md, codec_index, list.c_str(), "events");
 }
 
 uint32_t dak_app_sdp_decode_tel_event(media_description *md, uint16_t codec_index, void *block)
@@ -114,18 +129,10 @@ uint32_t dak_app_sdp_encode_dtmf_tel_event_tag(const sdp_tel_event_params *block
         DAK_LOG("dak_app_sdp_encode_dtmf_tel_event_tag :                                Bad Arguments( ");
         return SDP_OA_BAD_PARAMETERS;
     }
-    event_list list;
+    text_writer list(out, list_size);
     uint16_t written = 0;
-    uint32_t result = SDP_OA_SUCCESS;
-    while (written < SDP_TEL_EVENT_ENTRIES && block->events[written].kind != SDP_TEL_EVENT_END) {
-        result = add_entry(list, block->events[written]);
-        if (result != SDP_OA_SUCCESS)
-            break;
-        written++;
-    }
-    if (result == SDP_OA_SUCCESS)
-        list.drop_last();
-    copy_text(out, list_size, list.text());
+    const uint32_t result = write_events(list, *block, written);
+    list.terminate();
     if (count != nullptr)
         *count = written;
     return result;
