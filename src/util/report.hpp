@@ -6,8 +6,11 @@
 
 #include <stddef.h>
 
-// A macro, so that the compiler checks each format against its arguments.
-#define DAK_LOG(...) __android_log_print(6, nullptr, __VA_ARGS__)
+// A macro, so that the compiler checks each format against its arguments. Most lines have none: a call of
+// log_text() takes less code.
+#define DAK_LOG(format, ...) DAK_LOG_##__VA_OPT__(FORMAT)(format __VA_OPT__(, ) __VA_ARGS__)
+#define DAK_LOG_(text) dak::log_text(text)
+#define DAK_LOG_FORMAT(...) __android_log_print(6, nullptr, __VA_ARGS__)
 
 namespace dak {
 
