@@ -5,6 +5,7 @@
 #include "oa/codec/fmtp_setter.hpp"
 #include "oa/codec/mode_list.hpp"
 #include "oa/result_code.h"
+#include "util/fixed_text.hpp"
 #include "util/number.hpp"
 #include "util/report.hpp"
 
@@ -20,14 +21,47 @@ constexpr mode_list_rule evrc_modes = {
     "dak_app_sdp_decode_evrc_mode:Invalid EVRC                                             mode :%ld\n"};
 
 // How a member treats the list behind its sendmode.
-enum class second_list { none, recvmode, mode_set_recv };
+enum class second_list : uint8_t { none, recvmode, mode_set_recv };
 
-// What tells the nine members apart, next to the fields of their blocks.
+// Where a block has its fields; 0 for those that it lacks. A map of modes stands behind its presence flag.
+struct evrc_layout {
+    uint8_t dtx;
+    uint8_t maxinterleave_present = 0;
+    uint8_t maxinterleave = 0;
+    uint8_t fixedrate_present = 0;
+    uint8_t fixedrate = 0;
+    uint8_t sendmode_present = 0;
+    uint8_t recvmode_present = 0;
+    uint8_t mode_set_recv_present = 0;
+};
+
+template <typename Block> constexpr evrc_layout layout_of(Block block = {})
+{
+    evrc_layout layout = {offsetof(Block, dtx)};
+    if constexpr (requires { block.maxinterleave; }) {
+        layout.maxinterleave_present = offsetof(Block, maxinterleave_present);
+        layout.maxinterleave = offsetof(Block, maxinterleave);
+    }
+    if constexpr (requires { block.fixedrate; }) {
+        layout.fixedrate_present = offsetof(Block, fixedrate_present);
+        layout.fixedrate = offsetof(Block, fixedrate);
+    }
+    if constexpr (requires { block.sendmode; }) {
+        layout.sendmode_present = offsetof(Block, sendmode_present);
+        layout.mode_set_recv_present = offsetof(Block, mode_set_recv_present);
+    }
+    if constexpr (requires { block.recvmode; })
+        layout.recvmode_present = offsetof(Block, recvmode_present);
+    return layout;
+}
+
+// What tells the nine members apart. A text that a member has no use for is null.
 struct evrc_member {
     second_list second;
     bool passes_over_modes; // a mode that is refused does not end the encoding
-    const char *encode_null;
-    const char *decode_null;
+    evrc_layout layout;
+    fixed_text<42> encode_null;
+    fixed_text<100> decode_null;
     const char *no_modes;
     const char *maxinterleave_refused;
     const char *invalid_mode; // with one %d
@@ -39,31 +73,35 @@ constexpr const char *invalid_evrcwb_mode = "Invalid EVRCWB mode %d";
 constexpr evrc_member evrc = {
     second_list::none,
     false,
+    layout_of<sdp_evrc_params>(),
     "dak_app_sdp_encode_evrc:No fmtp/mline\n",
     "dak_app_sdp_decode_evrc:No fmtp/parsed                                                    media\n",
-    "",
+    nullptr,
     "dak_app_sdp_encode_evrc:Invalid Maxinterleave                                    info\n",
-    ""};
+    nullptr};
 constexpr evrc_member evrc0 = {
     second_list::none,
     false,
+    layout_of<sdp_evrc0_params>(),
     "dak_app_sdp_encode_evrc0:No fmtp/mline\n",
     "dak_app_sdp_decode_evrc0:No fmtp/parsed                                                    media\n",
-    "",
-    "",
-    ""};
+    nullptr,
+    nullptr,
+    nullptr};
 constexpr evrc_member evrc1 = {
     second_list::none,
     false,
+    layout_of<sdp_evrc1_params>(),
     "dak_app_sdp_encode_evrc1:No fmtp/mline\n",
     "dak_app_sdp_decode_evrc1:No fmtp/parsed                                                    media\n",
-    "",
-    "",
-    ""};
+    nullptr,
+    nullptr,
+    nullptr};
 // EVRCB's decoder bears the name of EVRC's in its text.
 constexpr evrc_member evrcb = {
     second_list::recvmode,
     true,
+    layout_of<sdp_evrcb_params>(),
     "dak_app_sdp_encode_evrcb:No fmtp/mline\n",
     "dak_app_sdp_decode_evrc:No fmtp/parsed                                                    media\n",
     "dak_app_sdp_encode_evrcb:No EVRC mode\n",
@@ -72,22 +110,25 @@ constexpr evrc_member evrcb = {
 constexpr evrc_member evrcb0 = {
     second_list::recvmode,
     false,
+    layout_of<sdp_evrcb0_params>(),
     "dak_app_sdp_encode_evrcb0:No fmtp/mline\n",
     "dak_app_sdp_decode_evrcb0:No fmtp/parsed                                                    media\n",
     "dak_app_sdp_encode_evrcb0:No EVRC mode\n",
-    "",
+    nullptr,
     invalid_evrcb_mode};
 constexpr evrc_member evrcb1 = {
     second_list::none,
     false,
+    layout_of<sdp_evrc1_params>(),
     "dak_app_sdp_encode_evrcb1:No fmtp/mline\n",
     "dak_app_sdp_decode_evrcb1:No fmtp/parsed                                                    media\n",
-    "",
-    "",
-    ""};
+    nullptr,
+    nullptr,
+    nullptr};
 constexpr evrc_member evrcwb = {
     second_list::mode_set_recv,
     false,
+    layout_of<sdp_evrcb_params>(),
     "dak_app_sdp_encode_evrcwb:No fmtp/mline\n",
     "dak_app_sdp_decode_evrcwb:No fmtp/parsed                                                    media\n",
     "dak_app_sdp_encode_evrcwb:No EVRC mode\n",
@@ -96,18 +137,20 @@ constexpr evrc_member evrcwb = {
 constexpr evrc_member evrcwb0 = {
     second_list::mode_set_recv,
     false,
+    layout_of<sdp_evrcb0_params>(),
     "dak_app_sdp_encode_evrcwb0:No fmtp/mline\n",
     "dak_app_sdp_decode_evrcwb0:No fmtp/parsed                                                    media\n",
     "dak_app_sdp_encode_evrcwb0:No EVRC mode\n",
-    "",
+    nullptr,
     invalid_evrcwb_mode};
 constexpr evrc_member evrcwb1 = {
     second_list::mode_set_recv,
     false,
+    layout_of<sdp_evrcwb1_params>(),
     "dak_app_sdp_encode_evrcwb1:No fmtp/mline\n",
     "dak_app_sdp_decode_evrcwb1:No fmtp/parsed                                                    media\n",
     "dak_app_sdp_encode_evrcwb1:No EVRC mode\n",
-    "",
+    nullptr,
     invalid_evrcwb_mode};
 
 struct mode_field {
@@ -115,38 +158,44 @@ struct mode_field {
     uint8_t *map = nullptr;
 };
 
-// The fields of a block, wherever its layout has them; null for those that it lacks.
+// The fields of a block; null for those that it lacks.
 struct evrc_fields {
     uint8_t *fmtp_present;
     uint8_t *params_valid;
     dtx_params *dtx;
-    uint8_t *maxinterleave_present = nullptr;
-    uint16_t *maxinterleave = nullptr;
-    uint8_t *fixedrate_present = nullptr;
-    uint32_t *fixedrate = nullptr;
-    mode_field sendmode = {};
-    mode_field recvmode = {};
-    mode_field mode_set_recv = {};
+    uint8_t *maxinterleave_present;
+    uint16_t *maxinterleave;
+    uint8_t *fixedrate_present;
+    uint32_t *fixedrate;
+    mode_field sendmode;
+    mode_field recvmode;
+    mode_field mode_set_recv;
 };
 
-template <typename Block> evrc_fields fields_of(Block &block)
+template <typename Field> Field *field_at(void *block, uint8_t offset)
 {
-    evrc_fields fields = {&block.fmtp_present, &block.evrc_params_valid, &block.dtx};
-    if constexpr (requires { block.maxinterleave; }) {
-        fields.maxinterleave_present = &block.maxinterleave_present;
-        fields.maxinterleave = &block.maxinterleave;
-    }
-    if constexpr (requires { block.fixedrate; }) {
-        fields.fixedrate_present = &block.fixedrate_present;
-        fields.fixedrate = &block.fixedrate;
-    }
-    if constexpr (requires { block.sendmode; }) {
-        fields.sendmode = {&block.sendmode_present, &block.sendmode};
-        fields.mode_set_recv = {&block.mode_set_recv_present, &block.mode_set_recv};
-    }
-    if constexpr (requires { block.recvmode; })
-        fields.recvmode = {&block.recvmode_present, &block.recvmode};
-    return fields;
+    return offset != 0 ? reinterpret_cast<Field *>(static_cast<char *>(block) + offset) : nullptr;
+}
+
+mode_field modes_at(void *block, uint8_t offset)
+{
+    auto *is_present = field_at<uint8_t>(block, offset);
+    return {is_present, is_present != nullptr ? is_present + 1 : nullptr};
+}
+
+evrc_fields fields_of(const evrc_layout &layout, void *block)
+{
+    auto *frame = static_cast<sdp_params_frame *>(block);
+    return {&frame->fmtp_present,
+            &frame->params_valid,
+            field_at<dtx_params>(block, layout.dtx),
+            field_at<uint8_t>(block, layout.maxinterleave_present),
+            field_at<uint16_t>(block, layout.maxinterleave),
+            field_at<uint8_t>(block, layout.fixedrate_present),
+            field_at<uint32_t>(block, layout.fixedrate),
+            modes_at(block, layout.sendmode_present),
+            modes_at(block, layout.recvmode_present),
+            modes_at(block, layout.mode_set_recv_present)};
 }
 
 // One payload format on its way to or from the block of one member.
@@ -290,44 +339,42 @@ uint32_t decode(const evrc_codec &codec)
     return result;
 }
 
-template <typename Block>
 uint32_t encode_block(const evrc_member &member, media_description *md, uint16_t codec_index, void *block)
 {
     if (md != nullptr && block != nullptr)
-        return encode({member, md, codec_index, fields_of(*static_cast<Block *>(block))});
-    log_text(member.encode_null);
+        return encode({member, md, codec_index, fields_of(member.layout, block)});
+    log_text(member.encode_null.c_str());
     return SDP_OA_BAD_PARAMETERS;
 }
 
-template <typename Block>
 uint32_t decode_block(const evrc_member &member, media_description *md, uint16_t codec_index, void *block)
 {
     if (md != nullptr && block != nullptr)
-        return decode({member, md, codec_index, fields_of(*static_cast<Block *>(block))});
-    log_text(member.decode_null);
+        return decode({member, md, codec_index, fields_of(member.layout, block)});
+    log_text(member.decode_null.c_str());
     return SDP_OA_BAD_PARAMETERS;
 }
 
 } // namespace
 
-#define DAK_EVRC_EXPORTS(member, Block) \
+#define DAK_EVRC_EXPORTS(member) \
     uint32_t dak_app_sdp_encode_##member(media_description *md, uint16_t codec_index, void *block) \
     { \
-        return encode_block<Block>(member, md, codec_index, block); \
+        return encode_block(member, md, codec_index, block); \
     } \
     uint32_t dak_app_sdp_decode_##member(media_description *md, uint16_t codec_index, void *block) \
     { \
-        return decode_block<Block>(member, md, codec_index, block); \
+        return decode_block(member, md, codec_index, block); \
     }
-DAK_EVRC_EXPORTS(evrc, sdp_evrc_params)
-DAK_EVRC_EXPORTS(evrc0, sdp_evrc0_params)
-DAK_EVRC_EXPORTS(evrc1, sdp_evrc1_params)
-DAK_EVRC_EXPORTS(evrcb, sdp_evrcb_params)
-DAK_EVRC_EXPORTS(evrcb0, sdp_evrcb0_params)
-DAK_EVRC_EXPORTS(evrcb1, sdp_evrc1_params)
-DAK_EVRC_EXPORTS(evrcwb, sdp_evrcb_params)
-DAK_EVRC_EXPORTS(evrcwb0, sdp_evrcb0_params)
-DAK_EVRC_EXPORTS(evrcwb1, sdp_evrcwb1_params)
+DAK_EVRC_EXPORTS(evrc)
+DAK_EVRC_EXPORTS(evrc0)
+DAK_EVRC_EXPORTS(evrc1)
+DAK_EVRC_EXPORTS(evrcb)
+DAK_EVRC_EXPORTS(evrcb0)
+DAK_EVRC_EXPORTS(evrcb1)
+DAK_EVRC_EXPORTS(evrcwb)
+DAK_EVRC_EXPORTS(evrcwb0)
+DAK_EVRC_EXPORTS(evrcwb1)
 
 int dak_app_sdp_encode_evrc_mode(char *out, uint8_t mode_map)
 {
