@@ -49,10 +49,10 @@ public:
     }
 
     // The first word of a table that begins an attribute, or null.
-    template <size_t N> const word *find(const word (&words)[N]) const
+    template <typename Word, size_t N> const Word *find(const Word (&words)[N]) const
     {
         char value[value_size];
-        for (const word &candidate : words) {
+        for (const Word &candidate : words) {
             if (find(candidate.text.c_str(), value))
                 return &candidate;
         }
