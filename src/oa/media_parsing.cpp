@@ -324,9 +324,9 @@ uint32_t dak_app_oa_parse_media_bandwidth(media_description *md, sdp_media_line 
             "dak_app_oa_parse_media_bandwidth: Incorrect                                                   params\n");
         return SDP_OA_BAD_PARAMETERS;
     }
-    constexpr bandwidth_reader reader = {"dak_app_oa_parse_media_bandwidth: No BW Info\n",
-                                         "dak_app_oa_parse_media_bandwidth: No BW Info:  \t\t\t\t\t\t %lu\n",
-                                         SDP_OA_SUCCESS};
+    static constexpr bandwidth_reader reader = {
+        "dak_app_oa_parse_media_bandwidth: No BW Info\n",
+        "dak_app_oa_parse_media_bandwidth: No BW Info:  \t\t\t\t\t\t %lu\n", SDP_OA_SUCCESS};
     return parse_bandwidth(mline->bandwidth, reader,
                            [md](int k) { return get_media_description_value_by_index(md, k, "b="); });
 }
