@@ -42,12 +42,14 @@ set_target_properties(daksdp PROPERTIES
     SOVERSION ${PROJECT_VERSION_MAJOR}
     LINK_DEPENDS ${daksdp_map})
 # No -z defs: the platform's symbols stay undefined until a program or the platform brings them.
-# -z now closes the tables of pointers against writing once they are relocated.
+# -z now closes the tables of pointers against writing once they are relocated. Nothing has to be started: the
+# smallest library goes without the compiler's code for that.
 target_link_options(daksdp PRIVATE
     LINKER:--version-script=${daksdp_map}
     LINKER:-Bsymbolic-functions
     LINKER:-z,relro
-    LINKER:-z,now)
+    LINKER:-z,now
+    $<$<CONFIG:MinSizeRel>:-nostartfiles>)
 
 # Phones have kernels with pages of 16 KB, and of 4 KB, which can map the same segments.
 if(ANDROID OR CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)")
