@@ -23,35 +23,34 @@ constexpr mode_list_rule evrc_modes = {
 // How a member treats the list behind its sendmode.
 enum class second_list : uint8_t { none, recvmode, mode_set_recv };
 
-// Where a block has its fields; 0 for those that it lacks. A map of modes stands behind its presence flag.
+// Where a block has a presence flag and the field that it belongs to; 0 for one that the block lacks.
+struct field_offsets {
+    uint8_t is_present = 0;
+    uint8_t value = 0;
+};
+
 struct evrc_layout {
     uint8_t dtx;
-    uint8_t maxinterleave_present = 0;
-    uint8_t maxinterleave = 0;
-    uint8_t fixedrate_present = 0;
-    uint8_t fixedrate = 0;
-    uint8_t sendmode_present = 0;
-    uint8_t recvmode_present = 0;
-    uint8_t mode_set_recv_present = 0;
+    field_offsets maxinterleave = {};
+    field_offsets fixedrate = {};
+    field_offsets sendmode = {};
+    field_offsets recvmode = {};
+    field_offsets mode_set_recv = {};
 };
 
 template <typename Block> constexpr evrc_layout layout_of(Block block = {})
 {
     evrc_layout layout = {offsetof(Block, dtx)};
-    if constexpr (requires { block.maxinterleave; }) {
-        layout.maxinterleave_present = offsetof(Block, maxinterleave_present);
-        layout.maxinterleave = offsetof(Block, maxinterleave);
-    }
-    if constexpr (requires { block.fixedrate; }) {
-        layout.fixedrate_present = offsetof(Block, fixedrate_present);
-        layout.fixedrate = offsetof(Block, fixedrate);
-    }
+    if constexpr (requires { block.maxinterleave; })
+        layout.maxinterleave = {offsetof(Block, maxinterleave_present), offsetof(Block, maxinterleave)};
+    if constexpr (requires { block.fixedrate; })
+        layout.fixedrate = {offsetof(Block, fixedrate_present), offsetof(Block, fixedrate)};
     if constexpr (requires { block.sendmode; }) {
-        layout.sendmode_present = offsetof(Block, sendmode_present);
-        layout.mode_set_recv_present = offsetof(Block, mode_set_recv_present);
+        layout.sendmode = {offsetof(Block, sendmode_present), offsetof(Block, sendmode)};
+        layout.mode_set_recv = {offsetof(Block, mode_set_recv_present), offsetof(Block, mode_set_recv)};
     }
     if constexpr (requires { block.recvmode; })
-        layout.recvmode_present = offsetof(Block, recvmode_present);
+        layout.recvmode = {offsetof(Block, recvmode_present), offsetof(Block, recvmode)};
     return layout;
 }
 
@@ -153,49 +152,41 @@ constexpr evrc_member evrcwb1 = {
     nullptr,
     invalid_evrcwb_mode};
 
-struct mode_field {
+// A field of a block and its presence flag; both null where the block lacks it.
+template <typename Value> struct evrc_field {
     uint8_t *is_present = nullptr;
-    uint8_t *map = nullptr;
+    Value *value = nullptr;
 };
+using mode_field = evrc_field<uint8_t>;
 
-// The fields of a block; null for those that it lacks.
 struct evrc_fields {
-    uint8_t *fmtp_present;
-    uint8_t *params_valid;
+    sdp_params_frame *frame;
     dtx_params *dtx;
-    uint8_t *maxinterleave_present;
-    uint16_t *maxinterleave;
-    uint8_t *fixedrate_present;
-    uint32_t *fixedrate;
+    evrc_field<uint16_t> maxinterleave;
+    evrc_field<uint32_t> fixedrate;
     mode_field sendmode;
     mode_field recvmode;
     mode_field mode_set_recv;
 };
 
-template <typename Field> Field *field_at(void *block, uint8_t offset)
+template <typename Value> evrc_field<Value> field_at(void *block, field_offsets offsets)
 {
-    return offset != 0 ? reinterpret_cast<Field *>(static_cast<char *>(block) + offset) : nullptr;
-}
-
-mode_field modes_at(void *block, uint8_t offset)
-{
-    auto *is_present = field_at<uint8_t>(block, offset);
-    return {is_present, is_present != nullptr ? is_present + 1 : nullptr};
+    char *start = static_cast<char *>(block);
+    if (offsets.value == 0)
+        return {};
+    return {reinterpret_cast<uint8_t *>(start + offsets.is_present),
+            reinterpret_cast<Value *>(start + offsets.value)};
 }
 
 evrc_fields fields_of(const evrc_layout &layout, void *block)
 {
-    auto *frame = static_cast<sdp_params_frame *>(block);
-    return {&frame->fmtp_present,
-            &frame->params_valid,
-            field_at<dtx_params>(block, layout.dtx),
-            field_at<uint8_t>(block, layout.maxinterleave_present),
+    return {static_cast<sdp_params_frame *>(block),
+            reinterpret_cast<dtx_params *>(static_cast<char *>(block) + layout.dtx),
             field_at<uint16_t>(block, layout.maxinterleave),
-            field_at<uint8_t>(block, layout.fixedrate_present),
             field_at<uint32_t>(block, layout.fixedrate),
-            modes_at(block, layout.sendmode_present),
-            modes_at(block, layout.recvmode_present),
-            modes_at(block, layout.mode_set_recv_present)};
+            field_at<uint8_t>(block, layout.sendmode),
+            field_at<uint8_t>(block, layout.recvmode),
+            field_at<uint8_t>(block, layout.mode_set_recv)};
 }
 
 // One payload format on its way to or from the block of one member.
@@ -208,10 +199,10 @@ struct evrc_codec {
 
 uint32_t encode_maxinterleave(const evrc_codec &codec)
 {
-    if (codec.block.maxinterleave == nullptr || *codec.block.maxinterleave_present == 0)
+    if (codec.block.maxinterleave.value == nullptr || *codec.block.maxinterleave.is_present == 0)
         return SDP_OA_SUCCESS;
     built_text<number_size> text;
-    if (!text.add_number(*codec.block.maxinterleave).fits())
+    if (!text.add_number(*codec.block.maxinterleave.value).fits())
         return fail_as_truncated(number_size);
     if (set_media_value(codec.md, codec.codec_index, "maxinterleave", text.c_str()))
         return SDP_OA_SUCCESS;
@@ -222,9 +213,9 @@ uint32_t encode_maxinterleave(const evrc_codec &codec)
 uint32_t encode_modes(const evrc_codec &codec, mode_field field, const char *name)
 {
     char modes[list_size];
-    if (field.map == nullptr || *field.is_present != 1)
+    if (field.value == nullptr || *field.is_present != 1)
         return SDP_OA_SUCCESS;
-    if (!dak_app_sdp_encode_evrc_mode(modes, *field.map)) {
+    if (!dak_app_sdp_encode_evrc_mode(modes, *field.value)) {
         log_text(codec.member.no_modes);
         return SDP_OA_BAD_PARAMETERS;
     }
@@ -243,19 +234,19 @@ uint32_t encode_mode_lists(const evrc_codec &codec)
 
 sdp_fixedrate_part fixedrate_of(const evrc_fields &block)
 {
-    return {*block.params_valid, *block.fixedrate_present, *block.fixedrate};
+    return {block.frame->params_valid, *block.fixedrate.is_present, *block.fixedrate.value};
 }
 
 uint32_t encode_fixedrate(const evrc_codec &codec)
 {
-    if (codec.block.fixedrate == nullptr)
+    if (codec.block.fixedrate.value == nullptr)
         return SDP_OA_SUCCESS;
     return dak_app_sdp_encode_evrc1_fixed_rate(codec.md, codec.codec_index, fixedrate_of(codec.block));
 }
 
 uint32_t encode(const evrc_codec &codec)
 {
-    if (*codec.block.fmtp_present == 0)
+    if (codec.block.frame->fmtp_present == 0)
         return SDP_OA_SUCCESS;
     uint32_t result = encode_maxinterleave(codec);
     if (result != SDP_OA_SUCCESS)
@@ -276,16 +267,16 @@ const char *text_of(const evrc_codec &codec, const char *name)
 
 void decode_maxinterleave(const evrc_codec &codec)
 {
-    if (codec.block.maxinterleave == nullptr)
+    if (codec.block.maxinterleave.value == nullptr)
         return;
     if (const char *text = text_of(codec, "maxinterleave"); text != nullptr)
-        *codec.block.maxinterleave_present = scan_signed(text, *codec.block.maxinterleave);
+        *codec.block.maxinterleave.is_present = scan_signed(text, *codec.block.maxinterleave.value);
 }
 
 // Reads a single mode; it replaces the map, or adds to it.
 uint32_t decode_mode(const evrc_codec &codec, mode_field field, const char *name, bool adds)
 {
-    const char *text = field.map != nullptr ? text_of(codec, name) : nullptr;
+    const char *text = field.value != nullptr ? text_of(codec, name) : nullptr;
     uint16_t mode = 0;
     if (text == nullptr)
         return SDP_OA_SUCCESS;
@@ -293,11 +284,11 @@ uint32_t decode_mode(const evrc_codec &codec, mode_field field, const char *name
     if (!scan_signed(text, mode))
         return SDP_OA_SUCCESS;
     if (mode > highest_mode) {
-        DAK_LOG(codec.member.invalid_mode, static_cast<int>(*field.map));
+        DAK_LOG(codec.member.invalid_mode, static_cast<int>(*field.value));
         return SDP_OA_INVALID_CONTENT;
     }
     *field.is_present = 1;
-    *field.map = static_cast<uint8_t>((adds ? *field.map : 0U) | (1U << mode));
+    *field.value = static_cast<uint8_t>((adds ? *field.value : 0U) | (1U << mode));
     return SDP_OA_SUCCESS;
 }
 
@@ -312,24 +303,24 @@ uint32_t decode_mode_lists(const evrc_codec &codec)
     if (text == nullptr)
         return SDP_OA_SUCCESS;
     return dak_app_sdp_decode_evrc_mode(text, codec.block.mode_set_recv.is_present,
-                                        codec.block.mode_set_recv.map);
+                                        codec.block.mode_set_recv.value);
 }
 
 uint32_t decode_fixedrate(const evrc_codec &codec)
 {
-    if (codec.block.fixedrate == nullptr)
+    if (codec.block.fixedrate.value == nullptr)
         return SDP_OA_SUCCESS;
     sdp_fixedrate_part part = fixedrate_of(codec.block);
     const uint32_t result = dak_app_sdp_decode_evrc1_fixed_rate(codec.md, codec.codec_index, &part);
-    *codec.block.fixedrate_present = part.fixedrate_present;
-    *codec.block.fixedrate = part.fixedrate;
+    *codec.block.fixedrate.is_present = part.fixedrate_present;
+    *codec.block.fixedrate.value = part.fixedrate;
     return result;
 }
 
 uint32_t decode(const evrc_codec &codec)
 {
-    *codec.block.fmtp_present = 1;
-    *codec.block.params_valid = 1;
+    codec.block.frame->fmtp_present = 1;
+    codec.block.frame->params_valid = 1;
     decode_maxinterleave(codec);
     uint32_t result = decode_mode_lists(codec);
     if (result == SDP_OA_SUCCESS)
