@@ -21,6 +21,8 @@ function(daksdp_library_flags target)
         -fno-threadsafe-statics
         -fvisibility-inlines-hidden
         # Calls inside the library are bound at link time, so they may be inlined as well.
-        -fno-semantic-interposition)
+        -fno-semantic-interposition
+        # Nothing is thrown through this library. The smallest build gives up backtraces out of it, too.
+        "$<$<CONFIG:MinSizeRel>:-fno-unwind-tables;-fno-asynchronous-unwind-tables;-fomit-frame-pointer>")
     set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
 endfunction()

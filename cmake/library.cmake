@@ -7,7 +7,24 @@ add_library(daksdp_objects OBJECT ${daksdp_sources})
 daksdp_library_flags(daksdp_objects)
 target_include_directories(daksdp_objects PRIVATE ${PROJECT_SOURCE_DIR}/src)
 
-add_library(daksdp SHARED $<TARGET_OBJECTS:daksdp_objects>)
+# The smallest shared library is optimised as a whole, which takes objects that no other compiler can read.
+if(CMAKE_BUILD_TYPE STREQUAL "MinSizeRel")
+    include(CheckIPOSupported)
+    check_ipo_supported(RESULT daksdp_is_whole LANGUAGES CXX)
+endif()
+
+if(daksdp_is_whole)
+    add_library(daksdp SHARED ${daksdp_sources})
+    daksdp_library_flags(daksdp)
+    set_target_properties(daksdp PROPERTIES INTERPROCEDURAL_OPTIMIZATION ON)
+    # Addresses of this model reach a megabyte, which is more than there is.
+    if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)")
+        target_compile_options(daksdp PRIVATE -mcmodel=tiny)
+        target_link_options(daksdp PRIVATE -mcmodel=tiny)
+    endif()
+else()
+    add_library(daksdp SHARED $<TARGET_OBJECTS:daksdp_objects>)
+endif()
 add_library(daksdp::daksdp ALIAS daksdp)
 add_library(daksdp_static STATIC $<TARGET_OBJECTS:daksdp_objects>)
 add_library(daksdp::static ALIAS daksdp_static)
@@ -30,12 +47,14 @@ set_target_properties(daksdp PROPERTIES
     SOVERSION ${PROJECT_VERSION_MAJOR}
     LINK_DEPENDS ${daksdp_map})
 # No -z defs: the platform's symbols stay undefined until a program or the platform brings them.
-# -z now closes the tables of pointers against writing once they are relocated.
+# -z now closes the tables of pointers against writing once they are relocated. Nothing has to be started: the
+# smallest library goes without the compiler's code for that.
 target_link_options(daksdp PRIVATE
     LINKER:--version-script=${daksdp_map}
     LINKER:-Bsymbolic-functions
     LINKER:-z,relro
-    LINKER:-z,now)
+    LINKER:-z,now
+    $<$<CONFIG:MinSizeRel>:-nostartfiles>)
 
 # Phones have kernels with pages of 16 KB, and of 4 KB, which can map the same segments.
 if(ANDROID OR CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)")

@@ -12,8 +12,8 @@ namespace {
 
 // Indexed by kind - 1.
 struct precondition_word {
-    const char *name;
-    const char *head;
+    char name[5];
+    char head[8];
 };
 constexpr precondition_word words[] = {{"curr", "a=curr:"}, {"des", "a=des:"}, {"conf", "a=conf:"}};
 

@@ -14,7 +14,7 @@
         "BPP", "HRD"
 
 // kind, initialiser, setter, getter, writer, separator on the a=fmtp line, slot names in the order of that
-// line.
+// line. Where the names of one kind are a part of another's, the longer row stands first.
 //
 // EVRC and EVRC-B are separated by a blank, EVRC-WB by ";": the reader takes blanks for the former alone.
 // EVRCB1 has neither sendmode nor recvmode. A generic MPEG-4 record has "rate" where auxiliaryDataSizeLength
@@ -41,40 +41,40 @@
         "ISMACRYP_CRYPTO_SUITE", "ISMACRYP_IV_LENGTH", "ISMACRYP_DELTA_IV_LENGTH", \
         "ISMACRYP_SELECTIVE_ENCRYPTION", "ISMACRYP_KEY_INDICATOR_LENGTH", "ISMACRYP_KEY_INDICATOR_PER_AU", \
         "ISMACRYP_SALT", "ISMACRYP_KEY", "ISMACRYP_KMS_ID", "ISMACRYP_KMS_SPECIFIC_DATA") \
-    ROW(evrc, init_evrc_media_info, set_evrc_media_value, get_evrc_media_value, \
-        dak_sdp_evrc_media_info_encode, " ", "maxinterleave", "silencesupp", "dtxmax", "dtxmin", "hangover") \
     ROW(amr, init_amr_media_info, set_amr_media_value, get_amr_media_value, dak_sdp_amr_media_info_encode, \
         ";", "octet-align", "mode-set", "mode-change-period", "mode-change-capability", \
         "mode-change-neighbor", "crc", "robust-sorting", "interleaving", "max-red", "channels") \
-    ROW(h263, init_h263_media_info, set_h263_media_value, get_h263_media_value, \
-        dak_sdp_263_media_info_encode, ";", "profile", "level") \
-    ROW(h263_1998, init_h263_1998_media_info, set_h263_1998_media_value, get_h263_1998_media_value, \
-        dak_sdp_h263_1998_media_info_encode, ";", DAK_H263_PICTURE_SLOTS) \
     ROW(h263_2000, init_h263_2000_media_info, set_h263_2000_media_value, get_h263_2000_media_value, \
         dak_sdp_h263_2000_media_info_encode, ";", DAK_H263_PICTURE_SLOTS, "profile", "level", "interlace") \
+    ROW(h263_1998, init_h263_1998_media_info, set_h263_1998_media_value, get_h263_1998_media_value, \
+        dak_sdp_h263_1998_media_info_encode, ";", DAK_H263_PICTURE_SLOTS) \
+    ROW(h263, init_h263_media_info, set_h263_media_value, get_h263_media_value, \
+        dak_sdp_263_media_info_encode, ";", "profile", "level") \
     ROW(telephone_event, init_tel_evnt_media_info, set_telephone_event_value, get_telephone_event_value, \
         dak_sdp_tel_evnt_media_info_encode, ";", "events") \
-    ROW(evrc0, init_evrc0_media_info, set_evrc0_media_value, get_evrc0_media_value, \
-        dak_sdp_evrc0_media_info_encode, " ", "silencesupp", "dtxmax", "dtxmin", "hangover") \
-    ROW(evrcb0, init_evrcb0_media_info, set_evrcb0_media_value, get_evrcb0_media_value, \
-        dak_sdp_evrcb0_media_info_encode, " ", "silencesupp", "dtxmax", "dtxmin", "hangover", "sendmode", \
-        "recvmode") \
     ROW(evrcb, init_evrcb_media_info, set_evrcb_media_value, get_evrcb_media_value, \
         dak_sdp_evrcb_media_info_encode, " ", "maxinterleave", "silencesupp", "dtxmax", "dtxmin", \
         "hangover", "sendmode", "recvmode") \
-    ROW(evrc1, init_evrc1_media_info, set_evrc1_media_value, get_evrc1_media_value, \
-        dak_sdp_evrc1_media_info_encode, " ", "fixedrate", "silencesupp", "dtxmax", "dtxmin", "hangover") \
-    ROW(evrcb1, init_evrcb1_media_info, set_evrcb1_media_value, get_evrcb1_media_value, \
-        dak_sdp_evrcb1_media_info_encode, " ", "fixedrate", "silencesupp", "dtxmax", "dtxmin", "hangover") \
-    ROW(evrcwb0, init_evrcwb0_media_info, set_evrcwb0_media_value, get_evrcwb0_media_value, \
-        dak_sdp_evrcwb0_media_info_encode, ";", "silencesupp", "dtxmax", "dtxmin", "hangover", \
-        "mode-set-recv", "sendmode") \
+    ROW(evrcb0, init_evrcb0_media_info, set_evrcb0_media_value, get_evrcb0_media_value, \
+        dak_sdp_evrcb0_media_info_encode, " ", "silencesupp", "dtxmax", "dtxmin", "hangover", "sendmode", \
+        "recvmode") \
+    ROW(evrc, init_evrc_media_info, set_evrc_media_value, get_evrc_media_value, \
+        dak_sdp_evrc_media_info_encode, " ", "maxinterleave", "silencesupp", "dtxmax", "dtxmin", "hangover") \
+    ROW(evrc0, init_evrc0_media_info, set_evrc0_media_value, get_evrc0_media_value, \
+        dak_sdp_evrc0_media_info_encode, " ", "silencesupp", "dtxmax", "dtxmin", "hangover") \
     ROW(evrcwb, init_evrcwb_media_info, set_evrcwb_media_value, get_evrcwb_media_value, \
         dak_sdp_evrcwb_media_info_encode, ";", "maxinterleave", "silencesupp", "dtxmax", "dtxmin", \
         "hangover", "mode-set-recv", "sendmode") \
     ROW(evrcwb1, init_evrcwb1_media_info, set_evrcwb1_media_value, get_evrcwb1_media_value, \
         dak_sdp_evrcwb1_media_info_encode, ";", "fixedrate", "silencesupp", "dtxmax", "dtxmin", "hangover", \
-        "mode-set-recv", "sendmode")
+        "mode-set-recv", "sendmode") \
+    ROW(evrcwb0, init_evrcwb0_media_info, set_evrcwb0_media_value, get_evrcwb0_media_value, \
+        dak_sdp_evrcwb0_media_info_encode, ";", "silencesupp", "dtxmax", "dtxmin", "hangover", \
+        "mode-set-recv", "sendmode") \
+    ROW(evrc1, init_evrc1_media_info, set_evrc1_media_value, get_evrc1_media_value, \
+        dak_sdp_evrc1_media_info_encode, " ", "fixedrate", "silencesupp", "dtxmax", "dtxmin", "hangover") \
+    ROW(evrcb1, init_evrcb1_media_info, set_evrcb1_media_value, get_evrcb1_media_value, \
+        dak_sdp_evrcb1_media_info_encode, " ", "fixedrate", "silencesupp", "dtxmax", "dtxmin", "hangover")
 
 // MIME name and kind, in index order. Names of the kind `no_parameters` can be looked up and nothing more.
 #define DAK_REGISTRY(ROW) \
@@ -115,21 +115,80 @@ namespace dak {
 inline constexpr size_t longest_name = 30;
 using slot_name = fixed_text<longest_name + 1>;
 
+// The names of all slots, kind by kind. A kind whose names stand there in a row already adds none.
+class slot_name_list {
+public:
+    constexpr slot_name_list();
+
+    // The first of names that stand in a row, or null.
+    template <size_t Count> constexpr const slot_name *find(const slot_name (&wanted)[Count]) const
+    {
+        for (size_t place = 0; place + Count <= count_; place++) {
+            if (stand_at(place, wanted))
+                return &names_[place];
+        }
+        return nullptr;
+    }
+
+    constexpr bool is_full() const { return count_ == room; }
+
+private:
+    static constexpr size_t room = 106;
+
+    template <size_t Count> constexpr bool stand_at(size_t place, const slot_name (&wanted)[Count]) const
+    {
+        for (const slot_name &name : wanted) {
+            if (!name.equals(names_[place++]))
+                return false;
+        }
+        return true;
+    }
+
+    template <size_t Count> constexpr void add(const slot_name (&added)[Count])
+    {
+        if (find(added) != nullptr)
+            return;
+        for (const slot_name &name : added)
+            names_[count_++] = name;
+    }
+
+    slot_name names_[room];
+    size_t count_ = 0;
+};
+
+#define DAK_ADD_SLOTS(kind, init, set, get, encode, separator, ...) add({__VA_ARGS__});
+constexpr slot_name_list::slot_name_list() { DAK_CODEC_KINDS(DAK_ADD_SLOTS) }
+#undef DAK_ADD_SLOTS
+
+inline constexpr slot_name_list slot_names;
+static_assert(slot_names.is_full());
+
 struct codec_kind {
     const slot_name *slots;
     uint8_t count;
-    const char *separator;
+    char separator[2];
 };
+
+// A kind with the slots of these names.
+template <size_t Count> constexpr codec_kind make_kind(char separator, const slot_name (&names)[Count])
+{
+    static_assert(Count <= MEDIA_INFO_MAX_SLOTS);
+    return {slot_names.find(names), Count, {separator}};
+}
 
 namespace kinds {
 
-#define DAK_KIND(kind, init, set, get, encode, separator, ...) \
-    inline constexpr slot_name kind##_slots[] = {__VA_ARGS__}; \
-    static_assert(sizeof kind##_slots / sizeof *kind##_slots <= MEDIA_INFO_MAX_SLOTS); \
-    inline constexpr codec_kind kind = {kind##_slots, sizeof kind##_slots / sizeof *kind##_slots, separator};
+#define DAK_KIND(kind, init, set, get, encode, separator, ...) kind,
+enum class place : uint8_t { DAK_CODEC_KINDS(DAK_KIND) no_parameters };
+#undef DAK_KIND
+
+#define DAK_KIND(kind, init, set, get, encode, separator, ...) make_kind(*separator, {__VA_ARGS__}),
+inline constexpr codec_kind all[] = {DAK_CODEC_KINDS(DAK_KIND){}};
+#undef DAK_KIND
+
+#define DAK_KIND(kind, ...) inline constexpr const codec_kind &kind = all[static_cast<size_t>(place::kind)];
 DAK_CODEC_KINDS(DAK_KIND)
 #undef DAK_KIND
-inline constexpr codec_kind no_parameters = {nullptr, 0, ""};
 
 } // namespace kinds
 } // namespace dak

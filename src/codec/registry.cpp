@@ -10,7 +10,7 @@ using namespace dak;
 namespace {
 
 struct codec_functions {
-    const codec_kind *kind;
+    kinds::place kind;
     dak_init_media_codec_fn init;
     dak_set_media_value_fn set;
     dak_get_media_value_fn get;
@@ -18,9 +18,9 @@ struct codec_functions {
 };
 
 #define DAK_KIND_FUNCTIONS(kind, init, set, get, encode, ...) \
-    constexpr codec_functions kind = {&kinds::kind, init, set, get, encode};
+    constexpr codec_functions kind = {kinds::place::kind, init, set, get, encode};
 DAK_CODEC_KINDS(DAK_KIND_FUNCTIONS)
-constexpr codec_functions no_parameters = {&kinds::no_parameters, nullptr, nullptr, nullptr, nullptr};
+constexpr codec_functions no_parameters = {kinds::place::no_parameters, nullptr, nullptr, nullptr, nullptr};
 
 } // namespace
 
@@ -41,7 +41,7 @@ constexpr dak_encoder_fn dak_g_encoder_func_ptr[MEDIA_MIME_COUNT] = {DAK_REGISTR
 
 namespace {
 
-constexpr const codec_kind *kinds_by_mime[MEDIA_MIME_COUNT] = {DAK_REGISTRY(DAK_MIME_KIND)};
+constexpr kinds::place kinds_by_mime[MEDIA_MIME_COUNT] = {DAK_REGISTRY(DAK_MIME_KIND)};
 
 constexpr const char *mime_name(size_t index) { return g_media_mime[index]; }
 constexpr name_index<MEDIA_MIME_COUNT> mime_names(mime_name);
@@ -66,7 +66,7 @@ int dak_sdp_get_mime_val(const char *name, uint32_t *index)
 const codec_kind *dak::find_kind(text_range name)
 {
     const int found = mime_names.find(name, mime_name);
-    return found < 0 ? nullptr : kinds_by_mime[found];
+    return found < 0 ? nullptr : &kinds::all[static_cast<size_t>(kinds_by_mime[found])];
 }
 
 const char *dak::registered_name(text_range name)

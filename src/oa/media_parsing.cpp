@@ -49,10 +49,10 @@ public:
     }
 
     // The first word of a table that begins an attribute, or null.
-    template <size_t N> const word *find(const word (&words)[N]) const
+    template <typename Word, size_t N> const Word *find(const Word (&words)[N]) const
     {
         char value[value_size];
-        for (const word &candidate : words) {
+        for (const Word &candidate : words) {
             if (find(candidate.text.c_str(), value))
                 return &candidate;
         }
@@ -323,9 +323,9 @@ uint32_t dak_app_oa_parse_media_bandwidth(media_description *md, sdp_media_line 
             "dak_app_oa_parse_media_bandwidth: Incorrect                                                   params\n");
         return SDP_OA_BAD_PARAMETERS;
     }
-    constexpr bandwidth_reader reader = {"dak_app_oa_parse_media_bandwidth: No BW Info\n",
-                                         "dak_app_oa_parse_media_bandwidth: No BW Info:  \t\t\t\t\t\t %lu\n",
-                                         SDP_OA_SUCCESS};
+    static constexpr bandwidth_reader reader = {
+        "dak_app_oa_parse_media_bandwidth: No BW Info\n",
+        "dak_app_oa_parse_media_bandwidth: No BW Info:  \t\t\t\t\t\t %lu\n", SDP_OA_SUCCESS};
     return parse_bandwidth(mline->bandwidth, reader,
                            [md](int k) { return get_media_description_value_by_index(md, k, "b="); });
 }

@@ -86,8 +86,8 @@ uint32_t read_strength(text_range &rest, sdp_precondition &entry)
 }
 
 // Reads one word of a table; `missing` and `unknown` are the log texts of its failures.
-template <size_t N>
-uint32_t read_word(text_range &rest, const word (&words)[N], const char *missing, const char *unknown,
+template <typename Word, size_t N>
+uint32_t read_word(text_range &rest, const Word (&words)[N], const char *missing, const char *unknown,
                    uint32_t &value)
 {
     const text_range token = rest.take_token(delimiters);
@@ -95,7 +95,7 @@ uint32_t read_word(text_range &rest, const word (&words)[N], const char *missing
         log_text(missing);
         return SDP_OA_MISSING_TOKEN;
     }
-    const word *found = find_word(words, token);
+    const Word *found = find_word(words, token);
     if (found == nullptr) {
         log_text(unknown);
         return SDP_OA_INVALID_CONTENT;

@@ -27,9 +27,8 @@ template <size_t N> void print_text(bool is_present, const char *format, const c
         DAK_LOG(format, terminated(field).c_str());
 }
 
-void print_amr(const sdp_codec_params &params)
+void print_amr(const sdp_amr_params &amr)
 {
-    const sdp_amr_params &amr = params.amr;
     print_number(amr.octet_align_present, "octet-align=%u; ", amr.octet_align);
     if (amr.mode_set_present != 0)
         dak_app_oa_print_mode(amr.mode_set);
@@ -53,7 +52,7 @@ void print_modes(bool is_present, const char *name, uint8_t mode_map)
 }
 
 // Prints what a block of the EVRC family has, by its layout.
-template <typename Block> void print_evrc_block(const Block &evrc)
+template <typename Block> void print_evrc(const Block &evrc)
 {
     if constexpr (requires { evrc.maxinterleave; })
         print_number(evrc.maxinterleave_present, "maxinterleave=%u; ", evrc.maxinterleave);
@@ -68,16 +67,8 @@ template <typename Block> void print_evrc_block(const Block &evrc)
     dak_app_oa_print_dtx_attr(&evrc.dtx);
 }
 
-void print_evrc(const sdp_codec_params &params) { print_evrc_block(params.evrc); }
-void print_evrc0(const sdp_codec_params &params) { print_evrc_block(params.evrc0); }
-void print_evrc1(const sdp_codec_params &params) { print_evrc_block(params.evrc1); }
-void print_evrcb(const sdp_codec_params &params) { print_evrc_block(params.evrcb); }
-void print_evrcb0(const sdp_codec_params &params) { print_evrc_block(params.evrcb0); }
-void print_evrcwb1(const sdp_codec_params &params) { print_evrc_block(params.evrcwb1); }
-
-void print_h264(const sdp_codec_params &params)
+void print_h264(const sdp_h264_params &h264)
 {
-    const sdp_h264_params &h264 = params.h264;
     print_text(h264.profile_level_id_present, "profile-level-id=%s; ", h264.profile_level_id);
     print_signed(h264.packetization_mode_present, "packetization-mode=%d; ", h264.packetization_mode);
     print_signed(h264.sprop_deint_buf_req_present, "sprop-deint-buf-req=%d; ", h264.sprop_deint_buf_req);
@@ -94,9 +85,8 @@ void print_h264(const sdp_codec_params &params)
                  h264.use_level_src_parameter_sets);
 }
 
-void print_mp4_es(const sdp_codec_params &params)
+void print_mp4_es(const sdp_mp4_es_params &mp4)
 {
-    const sdp_mp4_es_params &mp4 = params.mp4_es;
     print_signed(mp4.profile_level_id_present, "profile-level-id=%d; ", mp4.profile_level_id);
     if (mp4.config_present == 0)
         return;
@@ -106,14 +96,8 @@ void print_mp4_es(const sdp_codec_params &params)
     DAK_LOG("config=%s; ", config.c_str());
 }
 
-void print_h263_1998(const sdp_codec_params &params)
+void print_h263_2000(const sdp_h263_2000_params &h263)
 {
-    dak_app_oa_print_h263_2429_params(&params.h263_1998.params);
-}
-
-void print_h263_2000(const sdp_codec_params &params)
-{
-    const sdp_h263_2000_params &h263 = params.h263_2000;
     print_signed(h263.profile_present, "profile=%d; ", h263.profile);
     print_signed(h263.level_present, "level=%d; ", h263.level);
     if (h263.interlace != 0)
@@ -121,11 +105,11 @@ void print_h263_2000(const sdp_codec_params &params)
     dak_app_oa_print_h263_2429_params(&h263.params);
 }
 
-void print_tel_event(const sdp_codec_params &params)
+void print_tel_event(const sdp_tel_event_params &tel_event)
 {
-    if (params.tel_event.events_present == 0)
+    if (tel_event.events_present == 0)
         return;
-    for (const sdp_tel_event_entry &entry : params.tel_event.events) {
+    for (const sdp_tel_event_entry &entry : tel_event.events) {
         if (entry.kind == SDP_TEL_EVENT_END)
             return;
         if (entry.kind == SDP_TEL_EVENT_RANGE)
@@ -135,48 +119,37 @@ void print_tel_event(const sdp_codec_params &params)
     }
 }
 
-struct printed_codec {
-    uint32_t codec_id;
-    const char *name;
-    void (*print)(const sdp_codec_params &params); // null for a codec without parameters
+struct codec_name {
+    uint8_t codec_id;
+    char text[24];
 };
-
-constexpr printed_codec printed_codecs[] = {
-    {0, "Mime = PCMU\n", nullptr},
-    {8, "Mime = PCMA\n", nullptr},
-    {4, "Mime = G723\n", nullptr},
-    {9, "Mime = G722\n", nullptr},
-    {18, "Mime = G729\n", nullptr},
-    {21, "Mime = G711AB\n", nullptr},
-    {34, "Mime = H263\n", nullptr},
-    {98, "Mime = MP4V-ES\n", print_mp4_es},
-    {113, "Mime = H264\n", print_h264},
-    {99, "Mime = EVRC\n", print_evrc},
-    {97, "Mime = AMR\n", print_amr},
-    {96, "Mime = AMR-WB\n", print_amr},
-    {111, "Mime = G722_2\n", print_amr},
-    {100, "Mime = EVRC0\n", print_evrc0},
-    {102, "Mime = EVRCB0\n", print_evrcb0},
-    {103, "Mime = EVRCB\n", print_evrcb},
-    {101, "Mime = EVRC1\n", print_evrc1},
-    {104, "Mime = EVRCB1\n", print_evrc1},
-    {105, "Mime = telephone-event\n", print_tel_event},
-    {106, "Mime = H263-1998\n", print_h263_1998},
-    {107, "Mime = H263-2000\n", print_h263_2000},
-    {108, "Mime = EVRCWB0\n", print_evrcb0},
-    {109, "Mime = EVRCWB\n", print_evrcb},
-    {110, "Mime = EVRCWB1\n", print_evrcwb1},
-    {112, "Mime = telephone-event\n", print_tel_event},
+constexpr codec_name codec_names[] = {
+    {0, "Mime = PCMU\n"},
+    {8, "Mime = PCMA\n"},
+    {4, "Mime = G723\n"},
+    {9, "Mime = G722\n"},
+    {18, "Mime = G729\n"},
+    {21, "Mime = G711AB\n"},
+    {34, "Mime = H263\n"},
+    {98, "Mime = MP4V-ES\n"},
+    {113, "Mime = H264\n"},
+    {99, "Mime = EVRC\n"},
+    {97, "Mime = AMR\n"},
+    {96, "Mime = AMR-WB\n"},
+    {111, "Mime = G722_2\n"},
+    {100, "Mime = EVRC0\n"},
+    {102, "Mime = EVRCB0\n"},
+    {103, "Mime = EVRCB\n"},
+    {101, "Mime = EVRC1\n"},
+    {104, "Mime = EVRCB1\n"},
+    {105, "Mime = telephone-event\n"},
+    {106, "Mime = H263-1998\n"},
+    {107, "Mime = H263-2000\n"},
+    {108, "Mime = EVRCWB0\n"},
+    {109, "Mime = EVRCWB\n"},
+    {110, "Mime = EVRCWB1\n"},
+    {112, "Mime = telephone-event\n"},
 };
-
-const printed_codec *find_codec(uint32_t codec_id)
-{
-    for (const printed_codec &codec : printed_codecs) {
-        if (codec.codec_id == codec_id)
-            return &codec;
-    }
-    return nullptr;
-}
 
 void print_submodes(const h263_params &params)
 {
@@ -205,17 +178,50 @@ void print_option(bool is_set, const char *text)
 
 void dak::print_codec_name(uint32_t codec_id)
 {
-    if (const printed_codec *codec = find_codec(codec_id); codec != nullptr)
-        log_text(codec->name);
-    else
-        DAK_LOG("Mime = Unknown: %d\n", static_cast<int>(codec_id));
+    for (const codec_name &name : codec_names) {
+        if (name.codec_id == codec_id)
+            return log_text(name.text);
+    }
+    DAK_LOG("Mime = Unknown: %d\n", static_cast<int>(codec_id));
 }
 
 void dak::print_codec_params(const sdp_payload_format &format)
 {
-    const printed_codec *codec = find_codec(format.codec_id);
-    if (codec != nullptr && codec->print != nullptr && format.params.frame.fmtp_present != 0)
-        codec->print(format.params);
+    const sdp_codec_params &params = format.params;
+    if (params.frame.fmtp_present == 0)
+        return;
+    switch (format.codec_id) {
+    case 96:
+    case 97:
+    case 111:
+        return print_amr(params.amr);
+    case 98:
+        return print_mp4_es(params.mp4_es);
+    case 99:
+        return print_evrc(params.evrc);
+    case 100:
+        return print_evrc(params.evrc0);
+    case 101:
+    case 104:
+        return print_evrc(params.evrc1);
+    case 102:
+    case 108:
+        return print_evrc(params.evrcb0);
+    case 103:
+    case 109:
+        return print_evrc(params.evrcb);
+    case 110:
+        return print_evrc(params.evrcwb1);
+    case 105:
+    case 112:
+        return print_tel_event(params.tel_event);
+    case 106:
+        return dak_app_oa_print_h263_2429_params(&params.h263_1998.params);
+    case 107:
+        return print_h263_2000(params.h263_2000);
+    case 113:
+        return print_h264(params.h264);
+    }
 }
 
 void dak_app_oa_print_dtx_attr(const dtx_params *dtx)

@@ -10,7 +10,7 @@ using namespace dak;
 
 namespace {
 
-void print_word(const word *found)
+template <size_t Size> void print_word(const dumped_word<Size> *found)
 {
     if (found != nullptr)
         log_text(found->printed);
@@ -23,7 +23,7 @@ void print_bandwidth(const sdp_bandwidth &bandwidth)
     for (const sdp_bandwidth_entry &entry : bandwidth.entries) {
         if (entry.present == 0)
             return;
-        if (const word *modifier = find_word(bandwidth_words, entry.modifier); modifier != nullptr)
+        if (const auto *modifier = find_word(bandwidth_words, entry.modifier); modifier != nullptr)
             DAK_LOG(modifier->printed, static_cast<unsigned long>(entry.value));
         else
             DAK_LOG("Invalid bandwidth mode %lu \n", static_cast<unsigned long>(entry.modifier));
@@ -42,7 +42,7 @@ void print_session(const sdp_container &container)
                 static_cast<unsigned long>(container.stop_time));
     if (container.direction_present == 0)
         return;
-    if (const word *direction = find_word(direction_words, container.direction); direction != nullptr)
+    if (const auto *direction = find_word(direction_words, container.direction); direction != nullptr)
         log_text(direction->printed);
     else
         DAK_LOG("session direction : unknown \n");
@@ -51,7 +51,7 @@ void print_session(const sdp_container &container)
 void print_media_line(const sdp_media_line &mline)
 {
     DAK_LOG("Media line :");
-    if (const word *media = find_word(media_words, mline.media_type); media != nullptr)
+    if (const auto *media = find_word(media_words, mline.media_type); media != nullptr)
         log_text(media->printed);
     else
         DAK_LOG("Media type - unknown");

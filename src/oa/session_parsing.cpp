@@ -270,9 +270,9 @@ uint32_t dak_app_oa_parse_bandwidth(sdp_lib_context *document, sdp_container *co
     if (!are_given(document, container,
                    "dak_app_oa_parse_bandwidth:                                          Incorrect params\n"))
         return SDP_OA_BAD_PARAMETERS;
-    constexpr bandwidth_reader reader = {"dak_app_oa_parse_bandwidth: No BW Info\n",
-                                         "dak_app_oa_parse_bandwidth: Invalid BW Info:        %lu\n",
-                                         SDP_OA_INVALID_CONTENT};
+    static constexpr bandwidth_reader reader = {"dak_app_oa_parse_bandwidth: No BW Info\n",
+                                                "dak_app_oa_parse_bandwidth: Invalid BW Info:        %lu\n",
+                                                SDP_OA_INVALID_CONTENT};
     return parse_bandwidth(container->bandwidth, reader, [document](int k) {
         return get_particular_index_of_session_value(document, SDP_PARSER_DOCUMENT, "b=", k);
     });

@@ -1,5 +1,6 @@
 #include "oa/validate_answer.h"
 
+#include "oa/first_failure.hpp"
 #include "oa/mline_access.hpp"
 #include "oa/validate_address.h"
 #include "oa/validation_code.h"
@@ -58,10 +59,6 @@ uint32_t check_group_limit(const sdp_container &answer, const sdp_container &)
     DAK_LOG("validate_answer_params:Invalid no. of groups %d\n", static_cast<int>(answer.num_groups));
     return SDP_INVALID_GROUP;
 }
-
-// In order; the first that fails decides.
-constexpr uint32_t (*session_checks[])(const sdp_container &answer, const sdp_container &offer) = {
-    check_origin_and_connection, check_bandwidth_and_count, check_time, check_group_limit};
 
 uint32_t check_line(const sdp_container &answer, const sdp_container &offer, int index, bool groups_in_use)
 {
@@ -168,15 +165,15 @@ uint32_t dak_app_oa_validate_answer(const sdp_container *answer, const sdp_conta
 {
     if (answer == nullptr || offer == nullptr)
         return fail_as_null();
-    for (const auto check : session_checks) {
-        const uint32_t result = check(*answer, *offer);
-        if (result != SDP_VALID)
-            return result;
-    }
+    uint32_t result =
+        first_failure<check_origin_and_connection, check_bandwidth_and_count, check_time, check_group_limit>(
+            *answer, *offer);
+    if (result != SDP_VALID)
+        return result;
     if (lacks_mlines(*answer))
         return fail_as_null();
     bool is_accepted = false;
-    uint32_t result = check_lines(*answer, *offer, uses_groups(*answer), is_accepted);
+    result = check_lines(*answer, *offer, uses_groups(*answer), is_accepted);
     if (result == SDP_VALID)
         result = check_groups(*answer, *offer);
     if (result != SDP_VALID || is_accepted)

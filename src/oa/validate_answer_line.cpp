@@ -2,6 +2,7 @@
 
 #include "oa/validate_answer.h"
 
+#include "oa/first_failure.hpp"
 #include "oa/mline_access.hpp"
 #include "oa/payload_matching.hpp"
 #include "oa/validate_address.h"
@@ -157,12 +158,6 @@ uint32_t check_preconditions(const answered_line &line)
                                        line.offer_direction);
 }
 
-// In order; the first that fails decides.
-constexpr uint32_t (*line_checks[])(const answered_line &) = {
-    check_media_type, check_connection, check_direction,     check_events_alone,
-    check_formats,    check_ptime,      check_preconditions,
-};
-
 bool can_be_compared(const sdp_media_line *answer, const sdp_media_line *offer, uint32_t answer_format,
                      uint32_t offer_format, const char *null_params)
 {
@@ -226,12 +221,8 @@ uint32_t dak_app_oa_validate_ans_mline(const sdp_container *answer, const sdp_co
                                 static_cast<int>(mline_index),
                                 given_direction(*answered, *answer),
                                 given_direction(*offered, *offer)};
-    for (const auto check : line_checks) {
-        const uint32_t result = check(line);
-        if (result != SDP_VALID)
-            return result;
-    }
-    return SDP_VALID;
+    return first_failure<check_media_type, check_connection, check_direction, check_events_alone,
+                         check_formats, check_ptime, check_preconditions>(line);
 }
 
 uint32_t dak_app_oa_validate_ans_fmtp(const sdp_media_line *answer, const sdp_media_line *offer,

@@ -121,17 +121,6 @@ uint32_t check_events(const sdp_tel_event_params &tel_event, uint32_t direction)
     return SDP_VALID;
 }
 
-struct codec_check {
-    uint32_t codec;
-    uint32_t (*check)(uint32_t direction, uint32_t format_index, const sdp_media_line *mline);
-};
-constexpr codec_check codec_checks[] = {
-    {102, dak_app_oa_validate_evrcb0_fmtp},  {103, dak_app_oa_validate_evrcb_fmtp},
-    {105, dak_app_oa_validate_dtmf_fmtp},    {112, dak_app_oa_validate_dtmf_fmtp},
-    {108, dak_app_oa_validate_evrcwb0_fmtp}, {109, dak_app_oa_validate_evrcwb_fmtp},
-    {110, dak_app_oa_validate_evrcwb1_fmtp},
-};
-
 // Events on their way into a caller's array.
 struct event_list {
     uint16_t *events;
@@ -157,11 +146,23 @@ uint32_t dak_app_oa_validate_fmtp(uint32_t codec, uint32_t direction, uint32_t f
 {
     if (find_block(mline, format_index, "dak_app_oa_validate_fmtp: Null params") == nullptr)
         return SDP_NULL_ARGUMENT;
-    for (const codec_check &row : codec_checks) {
-        if (row.codec == codec)
-            return row.check(direction, format_index, mline);
+    switch (codec) {
+    case 102:
+        return dak_app_oa_validate_evrcb0_fmtp(direction, format_index, mline);
+    case 103:
+        return dak_app_oa_validate_evrcb_fmtp(direction, format_index, mline);
+    case 105:
+    case 112:
+        return dak_app_oa_validate_dtmf_fmtp(direction, format_index, mline);
+    case 108:
+        return dak_app_oa_validate_evrcwb0_fmtp(direction, format_index, mline);
+    case 109:
+        return dak_app_oa_validate_evrcwb_fmtp(direction, format_index, mline);
+    case 110:
+        return dak_app_oa_validate_evrcwb1_fmtp(direction, format_index, mline);
+    default:
+        return SDP_VALID;
     }
-    return SDP_VALID;
 }
 
 uint32_t dak_app_oa_validate_evrcb_fmtp(uint32_t direction, uint32_t format_index,

@@ -1,5 +1,6 @@
 #include "oa/validate_offer.h"
 
+#include "oa/first_failure.hpp"
 #include "oa/mline_access.hpp"
 #include "oa/payload_matching.hpp"
 #include "oa/validate_address.h"
@@ -132,20 +133,10 @@ uint32_t check_mid(const offered_line &line)
     return SDP_VALID;
 }
 
-// In order; the first that fails decides.
-constexpr uint32_t (*line_checks[])(const offered_line &) = {
-    check_format_count, check_connection, check_line_feedback, check_events_alone,
-    check_formats,      check_ptime,      check_preconditions, check_mid,
-};
-
 uint32_t check_line(const offered_line &line)
 {
-    for (const auto check : line_checks) {
-        const uint32_t result = check(line);
-        if (result != SDP_VALID)
-            return result;
-    }
-    return SDP_VALID;
+    return first_failure<check_format_count, check_connection, check_line_feedback, check_events_alone,
+                         check_formats, check_ptime, check_preconditions, check_mid>(line);
 }
 
 uint32_t check_lines(const sdp_container &offer, bool groups_in_use)

@@ -12,7 +12,7 @@ namespace {
 
 // The order of these tags is the order in which session lines are written.
 constexpr size_t tag_length = 2;
-constexpr const char *session_tags[SDP_SESSION_SLOTS] = {
+constexpr char session_tags[SDP_SESSION_SLOTS][tag_length + 1] = {
     "v=", "o=", "s=", "i=", "u=", "e=", "p=", "c=", "b=", "t=", "r=", "z=", "k=", "a="};
 
 bool is_owned(const sdp_info_container &document, const media_description *description)

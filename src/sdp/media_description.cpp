@@ -10,7 +10,7 @@ using namespace dak;
 
 namespace {
 
-constexpr const char *value_tags[SDP_MEDIA_VALUE_SLOTS] = {"i=", "c=", "b=", "b=", "b=", "b=", "k="};
+constexpr char value_tags[SDP_MEDIA_VALUE_SLOTS][sizeof "c="] = {"i=", "c=", "b=", "b=", "b=", "b=", "k="};
 
 bool are_payloads_valid(const uint32_t *payload_numbers, int payload_count)
 {
@@ -83,7 +83,7 @@ int fill(media_description &description, text_range media_type, text_range trans
     for (int i = 0; i < payload_count; i++)
         description.payload_numbers[i] = static_cast<int32_t>(payload_numbers[i]);
     for (int slot = 0; slot < SDP_MEDIA_VALUE_SLOTS; slot++)
-        memcpy(description.media_value_tags[slot], value_tags[slot], sizeof "c=");
+        memcpy(description.media_value_tags[slot], value_tags[slot], sizeof value_tags[slot]);
     return 1;
 }
 

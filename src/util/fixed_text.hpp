@@ -10,6 +10,7 @@ namespace dak {
 
 template <size_t Capacity> class fixed_text {
 public:
+    constexpr fixed_text() = default;
     template <size_t Size> constexpr fixed_text(const char (&chars)[Size]) : length_(Size - 1)
     {
         static_assert(Size <= Capacity);
@@ -21,12 +22,20 @@ public:
     constexpr const char *c_str() const { return chars_; }
     operator text_range() const { return {chars_, length()}; }
 
+    constexpr bool equals(const fixed_text &other) const
+    {
+        size_t i = 0;
+        while (i < Capacity && chars_[i] == other.chars_[i])
+            i++;
+        return i == Capacity;
+    }
+
     // Copies all of the room, which takes two instructions where a copy of the length is a call.
     void copy_to(char *destination) const { memcpy(destination, chars_, Capacity); }
 
 private:
     char chars_[Capacity] = {};
-    uint8_t length_;
+    uint8_t length_ = 0;
 };
 
 } // namespace dak

@@ -6,7 +6,7 @@ namespace dak {
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-security"
 #endif
-void log_text(const char *text) { DAK_LOG(text); }
+void log_text(const char *text) { __android_log_print(6, nullptr, text); }
 #if defined(__GNUC__)
 #pragma GCC diagnostic pop
 #endif

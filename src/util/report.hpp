@@ -6,8 +6,11 @@
 
 #include <stddef.h>
 
-// A macro, so that the compiler checks each format against its arguments.
-#define DAK_LOG(...) __android_log_print(6, nullptr, __VA_ARGS__)
+// A macro, so that the compiler checks each format against its arguments. Most lines have none: a call of
+// log_text() takes less code.
+#define DAK_LOG(format, ...) DAK_LOG_##__VA_OPT__(FORMAT)(format __VA_OPT__(, ) __VA_ARGS__)
+#define DAK_LOG_(text) dak::log_text(dak::without_conversions(text))
+#define DAK_LOG_FORMAT(...) __android_log_print(6, nullptr, __VA_ARGS__)
 
 namespace dak {
 
@@ -20,6 +23,16 @@ inline int fail()
 
 // Logs a text of the library's own that holds no conversion, such as one from a table.
 void log_text(const char *text);
+
+// Does not compile for a text with a conversion, which needs a value.
+consteval const char *without_conversions(const char *text)
+{
+    for (const char *c = text; *c != '\0'; c++) {
+        if (*c == '%')
+            dak_assert_failed();
+    }
+    return text;
+}
 
 inline decltype(nullptr) fail_null()
 {

@@ -16,11 +16,11 @@ constexpr size_t number_size = 21;
 
 // One of the three byte values, with its log texts.
 struct dtx_byte {
-    const char *name;
+    char name[9];
     uint8_t dtx_params::*is_present;
     uint8_t dtx_params::*value;
-    const char *invalid; // with one %d
-    const char *unreadable;
+    char invalid[79]; // with one %d
+    char unreadable[82];
 };
 
 constexpr dtx_byte dtx_bytes[] = {

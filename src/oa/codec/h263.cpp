@@ -19,7 +19,7 @@ constexpr int16_t highest_submode = 4;
 constexpr size_t longest_cpcf = 63;
 
 struct picture_size {
-    const char *name;
+    char name[6];
     uint8_t h263_params::*is_present;
     int16_t h263_params::*value;
 };
@@ -32,14 +32,14 @@ constexpr picture_size picture_sizes[] = {
 };
 
 struct annex {
-    const char *name;
+    char name[2];
     uint8_t h263_params::*is_set;
 };
 constexpr annex annexes[] = {
     {"F", &h263_params::f}, {"I", &h263_params::i}, {"J", &h263_params::j}, {"T", &h263_params::t}};
 
 struct submode {
-    const char *name;
+    char name[2];
     uint8_t h263_params::*is_present;
     uint32_t h263_params::*value;
 };
