@@ -51,11 +51,12 @@ void free_codecs(media_description &description)
         dak_free(description.codecs);
 }
 
-// An empty section with so many codecs, or null.
+// An empty section with so many codecs, or null. Without codecs a byte stands behind it, so that no block of codecs
+// which is allocated later can begin there.
 media_description *allocate_description(int payload_count)
 {
-    const size_t size = sizeof(media_description) + static_cast<size_t>(payload_count) * sizeof(media_codec);
-    auto *description = static_cast<media_description *>(dak_malloc(size));
+    const size_t behind = payload_count != 0 ? static_cast<size_t>(payload_count) * sizeof(media_codec) : 1;
+    auto *description = static_cast<media_description *>(dak_malloc(sizeof(media_description) + behind));
     if (description == nullptr)
         return nullptr;
     memset(description, 0, sizeof *description);
