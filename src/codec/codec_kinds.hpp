@@ -120,16 +120,17 @@ class slot_name_list {
 public:
     constexpr slot_name_list();
 
-    // The first of names that stand in a row, or null.
-    template <size_t Count> constexpr const slot_name *find(const slot_name (&wanted)[Count]) const
+    // The place of names that stand in a row, or `room`.
+    template <size_t Count> constexpr size_t find(const slot_name (&wanted)[Count]) const
     {
         for (size_t place = 0; place + Count <= count_; place++) {
             if (stand_at(place, wanted))
-                return &names_[place];
+                return place;
         }
-        return nullptr;
+        return room;
     }
 
+    constexpr const slot_name *at(size_t place) const { return &names_[place]; }
     constexpr bool is_full() const { return count_ == room; }
 
 private:
@@ -146,7 +147,7 @@ private:
 
     template <size_t Count> constexpr void add(const slot_name (&added)[Count])
     {
-        if (find(added) != nullptr)
+        if (find(added) != room)
             return;
         for (const slot_name &name : added)
             names_[count_++] = name;
@@ -173,7 +174,7 @@ struct codec_kind {
 template <size_t Count> constexpr codec_kind make_kind(char separator, const slot_name (&names)[Count])
 {
     static_assert(Count <= MEDIA_INFO_MAX_SLOTS);
-    return {slot_names.find(names), Count, {separator}};
+    return {slot_names.at(slot_names.find(names)), Count, {separator}};
 }
 
 namespace kinds {
