@@ -18,10 +18,15 @@ bool keeps_format(const sdp_media_line &mline, int index)
            (format.has_rtpmap == 0 || format.present != 0);
 }
 
+// A negative size of a file is written without its sign, as a number that is above what is read.
+bool keeps_size(const sdp_file_selector &selector) { return selector.size <= INT32_MAX; }
+
 // What was read in front of a format that cannot be decoded is left; nothing behind it.
 bool keeps_line(const sdp_media_line &mline)
 {
-    bool keeps = mline.msg_attr_present != 0;
+    const auto &selectors = mline.file_selectors;
+    bool keeps =
+        mline.msg_attr_present != 0 && std::all_of(std::begin(selectors), std::end(selectors), keeps_size);
     for (int i = 0; i < mline.num_formats; ++i)
         keeps = keeps && keeps_format(mline, i);
     return keeps;
