@@ -4,7 +4,6 @@
 #include "codec/codec_kinds.hpp"
 #include "codec/parameters.hpp"
 #include "sdp/codec_access.hpp"
-#include "util/bounded_text.hpp"
 
 using namespace dak;
 

@@ -2,7 +2,6 @@
 
 #include "codec/parameters.hpp"
 #include "sdp/codec_access.hpp"
-#include "util/bounded_text.hpp"
 #include "util/number.hpp"
 #include "util/token.hpp"
 

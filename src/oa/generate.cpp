@@ -3,7 +3,6 @@
 #include "oa/media_generation.h"
 #include "oa/result_code.h"
 #include "oa/session_generation.h"
-#include "oa/truncation.hpp"
 #include "sdp/context.hpp"
 #include "sdp/encoder.h"
 #include "util/bounded_text.hpp"

@@ -3,7 +3,6 @@
 #include "sdp/document.hpp"
 #include "sdp/media_description.h"
 #include "sdp/value_list.hpp"
-#include "util/bounded_text.hpp"
 #include "util/report.hpp"
 
 using namespace dak;

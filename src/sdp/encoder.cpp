@@ -11,7 +11,6 @@
 #include "sdp/document.hpp"
 #include "sdp/media_values.h"
 #include "sdp/text_buffer.hpp"
-#include "util/bounded_text.hpp"
 #include "util/report.hpp"
 
 using namespace dak;
