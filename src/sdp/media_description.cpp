@@ -39,41 +39,11 @@ void clear(media_codec &codec)
     }
 }
 
-// The codecs that a section was allocated with stand behind it.
-media_codec *joined_codecs(media_description &description)
-{
-    return reinterpret_cast<media_codec *>(&description + 1);
-}
-
-void free_codecs(media_description &description)
-{
-    if (description.codecs != joined_codecs(description))
-        dak_free(description.codecs);
-}
-
-// An empty section with so many codecs, or null. Without codecs a byte stands behind it, so that no block of codecs
-// which is allocated later can begin there.
-media_description *allocate_description(int payload_count)
-{
-    const size_t behind = payload_count != 0 ? static_cast<size_t>(payload_count) * sizeof(media_codec) : 1;
-    auto *description = static_cast<media_description *>(dak_malloc(sizeof(media_description) + behind));
-    if (description == nullptr)
-        return nullptr;
-    memset(description, 0, sizeof *description);
-    if (payload_count == 0)
-        return description;
-    description->codecs = joined_codecs(*description);
-    description->codec_capacity = payload_count;
-    for (int i = 0; i < payload_count; i++)
-        clear(description->codecs[i]);
-    return description;
-}
-
-// Fills an empty section; what has to be released on failure is the caller's.
+// Fills a zeroed section; what has to be released on failure is the caller's.
 int fill(media_description &description, text_range media_type, text_range transport_profile,
          const uint32_t *payload_numbers, int payload_count)
 {
-    if (!copy_text(description.media_type, media_type))
+    if (!copy_text(description.media_type, media_type) || !allocate_codecs(description, payload_count))
         return 0;
     if (!copy_text(description.transport_profile, transport_profile)) {
         DAK_LOG("Src str length exceeded dst str %lu \n",
@@ -103,7 +73,7 @@ int dak::allocate_codecs(media_description &description, int count)
         memcpy(codecs, description.codecs, static_cast<size_t>(kept) * sizeof(media_codec));
     for (int i = kept; i < count; i++)
         clear(codecs[i]);
-    free_codecs(description);
+    dak_free(description.codecs);
     description.codecs = codecs;
     description.codec_capacity = count;
     return 1;
@@ -116,9 +86,10 @@ media_description *init_media_description(const char *media_type, uint32_t port,
     if (media_type == nullptr || transport_profile == nullptr ||
         !are_payloads_valid(payload_numbers, payload_count))
         return fail_null();
-    media_description *description = allocate_description(payload_count);
+    auto *description = static_cast<media_description *>(dak_malloc(sizeof(media_description)));
     if (description == nullptr)
         return fail_null();
+    memset(description, 0, sizeof *description);
     if (!fill(*description, media_type, transport_profile, payload_numbers, payload_count)) {
         clean_media_description(description);
         return fail_null();
@@ -138,7 +109,7 @@ int clean_media_description(media_description *description)
     if (description == nullptr)
         return fail();
     free_attributes(*description);
-    free_codecs(*description);
+    dak_free(description->codecs);
     dak_free(description);
     return 1;
 }
