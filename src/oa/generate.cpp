@@ -71,8 +71,13 @@ uint32_t encode_document(sdp_lib_context *document, const sdp_payload_buffer &bu
         DAK_LOG("dak_app_oa_generate_sdp: Error encoding                           session/media\n");
         return SDP_OA_INVALID_CONTENT;
     }
-    const sdp_text_buffer &text = *document->text_buffer;
-    return copy_out({text.text, size_t{text.length}}, buffer);
+    const char *text = get_sdp_text(document);
+    if (text == nullptr) {
+        DAK_LOG(
+            "dak_app_oa_generate_sdp:Failed getting Encoder                                     sdp_payload \n");
+        return SDP_OA_BAD_PARAMETERS;
+    }
+    return copy_out({text, size_t{document->text_buffer->length}}, buffer);
 }
 
 } // namespace

@@ -103,7 +103,11 @@ uint32_t encode_codec(media_description *md, int index, sdp_payload_format &form
         return SDP_OA_BAD_PARAMETERS;
     }
     constexpr uint32_t hz_per_khz = 1000;
-    set_rtpmap(md->codecs[index], entry->mime_name, format.clock_rate_khz * hz_per_khz, 1);
+    if (!set_rtpmap(md->codecs[index], entry->mime_name, format.clock_rate_khz * hz_per_khz, 1)) {
+        DAK_LOG(
+            "dak_app_oa_encode_media_formats: Invalid                                      payload index\n");
+        return SDP_OA_INVALID_CONTENT;
+    }
     if (entry->encode == nullptr)
         return SDP_OA_SUCCESS;
     const uint32_t result = entry->encode(md, static_cast<uint16_t>(index), &format.params);

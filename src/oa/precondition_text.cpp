@@ -23,8 +23,11 @@ uint32_t add_type(text_writer &text, const sdp_precondition &entry)
                 static_cast<int>(entry.precond_type));
         return SDP_OA_INVALID_CONTENT;
     }
-    text.add(type->text).add(' ');
-    return SDP_OA_SUCCESS;
+    if (text.add(type->text).add(' ').fits())
+        return SDP_OA_SUCCESS;
+    DAK_LOG("dak_app_oa_encode_pre_cond_str :                                 error - buffer overflow:%lu",
+            static_cast<unsigned long>(text_size));
+    return SDP_OA_TOO_LONG;
 }
 
 // Its failure logs 1 in place of the strength; log filters look for that.
@@ -39,8 +42,10 @@ uint32_t add_strength(text_writer &text, const sdp_precondition &entry)
             1);
         return SDP_OA_INVALID_CONTENT;
     }
-    text.add(strength->text).add(' ');
-    return SDP_OA_SUCCESS;
+    if (text.add(strength->text).add(' ').fits())
+        return SDP_OA_SUCCESS;
+    DAK_LOG("dak_app_oa_encode_pre_cond_str :                                 error - buffer overflow ");
+    return SDP_OA_TOO_LONG;
 }
 
 uint32_t add_status(text_writer &text, const sdp_precondition &entry)
@@ -57,8 +62,10 @@ uint32_t add_status(text_writer &text, const sdp_precondition &entry)
                 static_cast<int>(direction_of(entry)));
         return SDP_OA_INVALID_CONTENT;
     }
-    text.add(status->text).add(' ').add(direction->text);
-    return SDP_OA_SUCCESS;
+    if (text.add(status->text).add(' ').add(direction->text).fits())
+        return SDP_OA_SUCCESS;
+    DAK_LOG("dak_app_oa_encode_pre_cond_str :                               error - buffer overflow ");
+    return SDP_OA_TOO_LONG;
 }
 
 // Stores the status type and the direction where the entry's kind has them.

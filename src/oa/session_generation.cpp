@@ -52,7 +52,13 @@ uint32_t add_number(text_writer &line, uint64_t number, const char *insufficient
 // A line has room for all that its fields can hold.
 uint32_t build_origin(text_writer &line, const sdp_container &container)
 {
-    line.add(field_text(container.origin_username)).add(' ');
+    const text_range username = field_text(container.origin_username);
+    if (username.length() >= origin_size) {
+        DAK_LOG("dak_app_oa_encode_origin:User name larger                        than alloc: %s\n",
+                container.origin_username);
+        return SDP_OA_TOO_LONG;
+    }
+    line.add(username).add(' ');
     uint32_t result = add_number(
         line, container.origin_session_id,
         "dak_app_oa_encode_origin:Insufficient                            length to fit Session Id: %d \n");
@@ -214,7 +220,7 @@ uint32_t dak_app_oa_encode_origin(sdp_lib_context *document, const sdp_container
             "dak_app_oa_encode_origin:Malloc failed                                                    \n");
         return SDP_OA_NO_MEMORY;
     }
-    text_writer line = room.writer();
+    text_writer &line = room.writer();
     const uint32_t result = build_origin(line, *container);
     if (result != SDP_OA_SUCCESS)
         return result;
@@ -265,7 +271,7 @@ uint32_t dak_app_oa_encode_connection(sdp_lib_context *document, const sdp_conta
         DAK_LOG("dak_app_oa_encode_connection:Malloc failed\n");
         return SDP_OA_NO_MEMORY;
     }
-    text_writer text = room.writer();
+    text_writer &text = room.writer();
     const uint32_t result = add_address(text, container->connection);
     if (result != SDP_OA_SUCCESS) {
         DAK_LOG(

@@ -36,7 +36,7 @@ uint32_t copy_value(heap_text &copy, const char *value, const char *no_memory)
         log_text(no_memory);
         return SDP_OA_NO_MEMORY;
     }
-    if (copy.add(value))
+    if (copy.writer().add(value).fits())
         return SDP_OA_SUCCESS;
     DAK_LOG("src str len exceeded dst str len %lu \n", static_cast<unsigned long>(copy.size()));
     dak_assert_failed();

@@ -97,8 +97,8 @@ uint32_t check_lines(const sdp_container &answer, const sdp_container &offer, bo
     return SDP_VALID;
 }
 
-// Counts the media lines of an answered group that are accepted and stand in the offered group. Fails for one that the
-// answered group lists twice.
+// Counts the media lines of an answered group that are accepted and stand in the offered group. Fails for one
+// that the answered group lists twice.
 uint32_t count_offered(const sdp_container &answer, int group_index, const sdp_group &offered, int &count)
 {
     const sdp_group &answered = answer.groups[group_index];
@@ -115,8 +115,8 @@ uint32_t count_offered(const sdp_container &answer, int group_index, const sdp_g
     return SDP_VALID;
 }
 
-// Looks for an offered group that has all of an answered group's media lines. A group without any is found when the
-// group before it was.
+// Looks for an offered group that has all of an answered group's media lines. A group without any is found
+// when the group before it was.
 uint32_t find_group(const sdp_container &answer, const sdp_container &offer, int group_index, bool &is_found)
 {
     const sdp_group &answered = answer.groups[group_index];

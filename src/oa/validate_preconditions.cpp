@@ -77,8 +77,8 @@ struct precondition_tables {
     }
 };
 
-// Where the answer keeps what the offer has at (row, column). Tabulation never fills row 0, so an e2e entry of
-// the offer with a strength above 0 is never matched.
+// Where the answer keeps what the offer has at (row, column). Tabulation never fills row 0, so an e2e entry
+// of the offer with a strength above 0 is never matched.
 uint32_t answer_strength(const precondition_tables &answer, uint32_t row, uint32_t column)
 {
     constexpr uint32_t mirrored_rows[rows] = {0, 0, SDP_STATUS_REMOTE, SDP_STATUS_LOCAL};

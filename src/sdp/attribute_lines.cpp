@@ -17,8 +17,8 @@ namespace {
 
 constexpr size_t value_size = 200;
 
-// Whether an attribute is kept as it stands: splitting it would trim nothing off and refuse nothing. A last part
-// without a delimiter behind it counts the line's terminator as its own.
+// Whether an attribute is kept as it stands: splitting it would trim nothing off and refuse nothing. A last
+// part without a delimiter behind it counts the line's terminator as its own.
 bool is_kept_whole(text_range attribute)
 {
     if (attribute.empty() || attribute.length() + 1 >= value_size || has_control_characters(attribute) ||

@@ -6,8 +6,8 @@
 
 namespace dak {
 
-// Allocates the nodes of the next `count` attributes together. A section has one such block; attributes beyond it,
-// or all when memory is short, which is reported, have nodes of their own.
+// Allocates the nodes of the next `count` attributes together. A section has one such block; attributes
+// beyond it, or all when memory is short, which is reported, have nodes of their own.
 void reserve_attributes(media_description &description, uint32_t count);
 
 // Links an empty node behind the last attribute; null, reported, when memory runs out.

@@ -6,8 +6,8 @@
 
 namespace dak {
 
-// A context, in one block, with nothing but the document that sdp_parse() fills; null, reported, when memory runs
-// out.
+// A context, in one block, with nothing but the document that sdp_parse() fills; null, reported, when memory
+// runs out.
 sdp_lib_context *open_parsing_context();
 
 // The same with the document and the text of dak_sdp_encode().

@@ -27,8 +27,8 @@ struct attribute_reader {
     const char *failure;
 };
 
-// The first name that begins an attribute decides; those of most lines come first. Some failures are logged under
-// another attribute's name; log filters match on these texts.
+// The first name that begins an attribute decides; those of most lines come first. Some failures are logged
+// under another attribute's name; log filters match on these texts.
 constexpr attribute_reader attribute_readers[] = {
     {"fmtp", parse_a_equal_fmtp_line, "parse fmtp err "},
     {"curr", parse_a_equal_pcd_line,
@@ -81,8 +81,8 @@ int bind_rtpmap(media_description *description, const char *line_start, const ch
                                                 encoding_name, clock_rate, encoding_param);
 }
 
-// First pass: formats get their names before any fmtp line is read, wherever it stands. Gives the number of lines
-// that the second pass keeps as attributes.
+// First pass: formats get their names before any fmtp line is read, wherever it stands. Gives the number of
+// lines that the second pass keeps as attributes.
 uint32_t read_bindings(media_description *description, section_lines &lines)
 {
     uint32_t kept = 0;

@@ -7,7 +7,8 @@
 
 namespace dak {
 
-// The lines behind an m= line, which are walked twice: the second walk does not search for the first of them again.
+// The lines behind an m= line, which are walked twice: the second walk does not search for the first of them
+// again.
 class section_lines {
 public:
     section_lines(const char *start, const char *end) : start_(start), position_(start), end_(end) {}

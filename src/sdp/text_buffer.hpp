@@ -35,7 +35,8 @@ inline int append_sdp_text(sdp_text_buffer *buffer, text_range text)
 // Appends a tag, a value and CR LF, each of them whole or not at all.
 int append_sdp_line(sdp_text_buffer *buffer, text_range tag, text_range value);
 
-// A line, or a piece of one, of fewer than 200 characters, which is built where it is to stand: behind the text.
+// A line, or a piece of one, of fewer than 200 characters, which is built where it is to stand: behind the
+// text.
 class sdp_line : public text_writer {
 public:
     explicit sdp_line(const sdp_lib_context *context) : sdp_line(buffer_of(context)) {}
@@ -50,7 +51,8 @@ public:
 
     bool is_too_long() const { return length() >= size; }
 
-    // Adds the line to the text, then its ending as a piece of its own; 0, reported, when there is no room for one.
+    // Adds the line to the text, then its ending as a piece of its own; 0, reported, when there is no room
+    // for one.
     int write() { return fits() ? advance() : fail(); }
     int write(text_range ending) { return write() && append_sdp_text(buffer_, ending); }
 

@@ -22,12 +22,12 @@ template <size_t N> bool copy_text(char (&field)[N], text_range source)
     return copy_text(field, N, source);
 }
 
-// Writes the digits of a number behind the first `length` characters of `size`, the terminator included, if they fit,
-// and gives the length with them.
+// Writes the digits of a number behind the first `length` characters of `size`, the terminator included, if
+// they fit, and gives the length with them.
 size_t append_decimal(char *room, size_t size, size_t length, uint64_t number);
 
-// Writes pieces one behind the other into room that somebody else owns. A piece that does not fit is left out with
-// all that follow it, but counted.
+// Writes pieces one behind the other into room that somebody else owns. A piece that does not fit is left out
+// with all that follow it, but counted.
 class text_writer {
 public:
     // `size` counts the terminator.

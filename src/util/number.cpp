@@ -28,8 +28,8 @@ int end_of_number(char c, int mode)
     return mode == DAK_ATOI_HEX ? fail() : 0;
 }
 
-// Reads so many characters; `number` keeps what stood in front of a failure. They are counted, since a length may
-// be beyond all memory while the number ends in front of it.
+// Reads so many characters; `number` keeps what stood in front of a failure. They are counted, since a length
+// may be beyond all memory while the number ends in front of it.
 template <uint32_t Base> int read_digits(const char *text, uint32_t length, int mode, uint32_t &number)
 {
     uint64_t value = 0;

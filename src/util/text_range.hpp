@@ -144,7 +144,8 @@ struct text_range {
 // The text of a fixed field, terminated or not.
 template <size_t N> text_range field_text(const char (&field)[N]) { return {field, strnlen(field, N)}; }
 
-// The same for a field that holds a few characters, which are sooner counted than a library function is called.
+// The same for a field that holds a few characters, which are sooner counted than a library function is
+// called.
 template <size_t N> text_range short_field_text(const char (&field)[N])
 {
     size_t length = 0;

@@ -23,7 +23,8 @@ constexpr mode_list_rule evrc_modes = {
 // How a member treats the list behind its sendmode.
 enum class second_list : uint8_t { none, recvmode, mode_set_recv };
 
-// Where a block has a presence flag and the field that it belongs to; 0 for one that the block lacks.
+// Where a block has a presence flag and the field that it belongs to; 0 for one that the block lacks. With
+// places instead of types, one function serves the blocks of all nine members.
 struct field_offsets {
     uint8_t is_present = 0;
     uint8_t value = 0;
@@ -41,10 +42,14 @@ struct evrc_layout {
 template <typename Block> constexpr evrc_layout layout_of(Block block = {})
 {
     evrc_layout layout = {offsetof(Block, dtx)};
-    if constexpr (requires { block.maxinterleave; })
+    if constexpr (requires { block.maxinterleave; }) {
+        static_assert(__is_same(decltype(block.maxinterleave), uint16_t));
         layout.maxinterleave = {offsetof(Block, maxinterleave_present), offsetof(Block, maxinterleave)};
-    if constexpr (requires { block.fixedrate; })
+    }
+    if constexpr (requires { block.fixedrate; }) {
+        static_assert(__is_same(decltype(block.fixedrate), uint32_t));
         layout.fixedrate = {offsetof(Block, fixedrate_present), offsetof(Block, fixedrate)};
+    }
     if constexpr (requires { block.sendmode; }) {
         layout.sendmode = {offsetof(Block, sendmode_present), offsetof(Block, sendmode)};
         layout.mode_set_recv = {offsetof(Block, mode_set_recv_present), offsetof(Block, mode_set_recv)};

@@ -47,7 +47,8 @@ private:
     media_description *md_;
     media_codec *codec_;
     const codec_kind *kind_;
-    // Most parameters of most formats are not set: a bit for each slot that is, and for each length of its names.
+    // Most parameters of most formats are not set: a bit for each slot that is, and for each length of its
+    // names.
     uint32_t slots_;
     uint32_t lengths_ = 0;
     uint16_t codec_index_;

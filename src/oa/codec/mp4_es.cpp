@@ -18,7 +18,7 @@ bool add_octet(heap_text &text, uint8_t octet)
 {
     constexpr const char *digits = "0123456789abcdef";
     const char pair[] = {digits[octet >> 4], digits[octet & 15]};
-    return text.add(text_range(pair, sizeof pair));
+    return text.writer().add(text_range(pair, sizeof pair)).fits();
 }
 
 uint32_t encode_config(media_description *md, uint16_t codec_index, const sdp_mp4_es_params &mp4)
