@@ -6,6 +6,7 @@
 #include "sdp/context.hpp"
 #include "sdp/encoder.h"
 #include "util/bounded_text.hpp"
+#include "sdp/text_buffer.h"
 #include "util/report.hpp"
 
 using namespace dak;
