@@ -6,7 +6,7 @@ namespace {
 // What generation writes in a form that parsing does not read, or reads as something else.
 constexpr auto one_way = table_of(
     "a=acceptwrapped-types:", "application/imdn+xml", " cmm", "a=file-disposition:\r", "a=file-selector:\r",
-    "a=file-selector\r", "=\r", "=;", "= ", " \r",
+    "a=file-selector\r", "=\r", "=;", "= ", " \r", "\t\r",
     "sar-understood=", "sar-supported=", "in-band-parameter-sets=", "parameter-add=", "use-level-src");
 
 // A payload number that stands twice is written once, and an unknown codec without its name.
