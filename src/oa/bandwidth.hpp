@@ -29,9 +29,10 @@ uint32_t encode_bandwidth(const sdp_bandwidth &bandwidth, Store store, Named nam
                     static_cast<int>(bandwidth.entries[named(i)].modifier));
             return SDP_OA_INVALID_CONTENT;
         }
-        char room[size]; // a modifier and a number always fit
+        char room[size];
         text_writer text(room);
-        text.add(modifier->text).add(':').add_number(entry.value);
+        if (!text.add(modifier->text).add(':').add_number(entry.value).fits())
+            return fail_as_truncated(size);
         result = store(text.text()) ? SDP_OA_SUCCESS : SDP_OA_INVALID_CONTENT;
         if (result != SDP_OA_SUCCESS)
             DAK_LOG("dak_app_oa_encode_bw:Invalid BW info\n");

@@ -49,7 +49,6 @@ uint32_t add_number(text_writer &line, uint64_t number, const char *insufficient
     return SDP_OA_SUCCESS;
 }
 
-// A line has room for all that its fields can hold.
 uint32_t build_origin(text_writer &line, const sdp_container &container)
 {
     const text_range username = field_text(container.origin_username);
@@ -97,7 +96,9 @@ uint32_t encode_text(sdp_lib_context *document, text_range value, const text_bui
         log_text(builder.no_memory);
         return SDP_OA_NO_MEMORY;
     }
-    return store(document, builder.slot, text.writer().add(value).text(), builder.refused);
+    if (!text.writer().add(value).fits())
+        return fail_as_truncated(text.size());
+    return store(document, builder.slot, text.writer().text(), builder.refused);
 }
 
 uint32_t encode_direction(sdp_lib_context *document, const sdp_container &container, bool &is_refused)
@@ -224,6 +225,8 @@ uint32_t dak_app_oa_encode_origin(sdp_lib_context *document, const sdp_container
     const uint32_t result = build_origin(line, *container);
     if (result != SDP_OA_SUCCESS)
         return result;
+    if (!line.fits())
+        return fail_as_truncated(origin_size);
     return store(
         document, origin_slot, line.text(),
         "dak_app_oa_encode_origin:Invalid origin                                                 info \n");
@@ -289,9 +292,10 @@ uint32_t dak_app_oa_encode_time(sdp_lib_context *document, const sdp_container *
         return SDP_OA_BAD_PARAMETERS;
     if (container->time_present == 0)
         return SDP_OA_SUCCESS;
-    char room[time_size]; // two numbers always fit
+    char room[time_size];
     text_writer text(room);
-    text.add_number(container->start_time).add(' ').add_number(container->stop_time);
+    if (!text.add_number(container->start_time).add(' ').add_number(container->stop_time).fits())
+        return fail_as_truncated(time_size);
     return store(document, time_slot, text.text(), "dak_app_oa_encode_time: Invalid time info\n");
 }
 
