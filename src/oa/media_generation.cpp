@@ -6,6 +6,7 @@
 #include "oa/codec/mime_table.h"
 #include "oa/precondition_text.hpp"
 #include "oa/result_code.h"
+#include "oa/truncation.hpp"
 #include "oa/words.hpp"
 #include "sdp/attribute_lines.hpp"
 #include "sdp/document.h"
@@ -20,6 +21,7 @@ namespace {
 
 constexpr uint32_t highest_static_payload = 95;
 constexpr uint32_t most_preconditions = 9;
+constexpr size_t value_size = 256;
 constexpr size_t number_size = sizeof "65535";
 
 bool can_be_written(uint32_t media_type)
@@ -201,6 +203,8 @@ uint32_t encode_setup(media_description *md, const sdp_media_line &mline)
 
 uint32_t store_value(media_description *md, const char *name, text_range value, const char *refused)
 {
+    if (value.length() >= value_size)
+        return fail_as_truncated(value_size);
     if (set_attribute(*md, name, &value))
         return SDP_OA_SUCCESS;
     log_text(refused);

@@ -281,6 +281,8 @@ uint32_t dak_app_oa_encode_connection(sdp_lib_context *document, const sdp_conta
             "dak_app_oa_encode_connection:Invalid address                                                  info\n");
         return result;
     }
+    if (!text.fits())
+        return fail_as_truncated(room.size());
     return store(
         document, connection_slot, text.text(),
         "dak_app_oa_encode_connection:Invalid connection                                                  info\n");
