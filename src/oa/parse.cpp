@@ -55,8 +55,7 @@ uint32_t read_document(sdp_lib_context *document, sdp_container *container)
 
 uint32_t read_text(sdp_lib_context *document, sdp_container *container, const sdp_payload_buffer &buffer)
 {
-    // The container takes from records what is read into them.
-    if (parse(document, buffer.text, buffer.capacity, read_attributes::dropped))
+    if (parse(document, buffer.text, buffer.capacity, audience::container_layer))
         return read_document(document, container);
     DAK_LOG("dak_app_oa_parse_sdp: SDP Core parse error");
     return SDP_OA_UNUSABLE;

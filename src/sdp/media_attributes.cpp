@@ -132,7 +132,7 @@ bool is_dropped(const media_description &description, text_range attribute)
 }
 
 // Every attribute but rtpmap is a generic one too, whether it was read into a record or not.
-void read_attribute(media_description *description, text_range line, read_attributes handling)
+void read_attribute(media_description *description, text_range line, audience seen_by)
 {
     const text_range attribute(line.first + 2, line.last);
     if (attribute.begins_with("rtpmap"))
@@ -140,14 +140,14 @@ void read_attribute(media_description *description, text_range line, read_attrib
     const attribute_reader *reader = find_reader(attribute);
     if (reader != nullptr && !reader->read(description, line.first, line.last))
         log_text(reader->failure);
-    if (reader == nullptr || handling == read_attributes::kept || !is_dropped(*description, attribute))
+    if (reader == nullptr || seen_by == audience::caller || !is_dropped(*description, attribute))
         parse_sdp_attribute(description, line.first, line.last);
 }
 
-void read_line(media_description *description, text_range line, read_attributes handling)
+void read_line(media_description *description, text_range line, audience seen_by)
 {
     if (line.begins_with("a="))
-        read_attribute(description, line, handling);
+        read_attribute(description, line, seen_by);
     else if (!parse_media_description_value(description, line.first, line.last))
         DAK_LOG("parse media attribute val ");
 }
@@ -155,7 +155,7 @@ void read_line(media_description *description, text_range line, read_attributes 
 } // namespace
 
 int dak::read_section(const char **position, const char *end, media_description *description,
-                      read_attributes handling)
+                      audience seen_by)
 {
     if (position == nullptr || *position == nullptr || end == nullptr || description == nullptr)
         return fail();
@@ -163,7 +163,7 @@ int dak::read_section(const char **position, const char *end, media_description 
     reserve_attributes(*description, read_bindings(description, lines));
     lines.rewind();
     for (text_range line = lines.next(); !line.empty(); line = lines.next()) {
-        read_line(description, line, handling);
+        read_line(description, line, seen_by);
         *position = line.last;
     }
     return 1;
@@ -171,5 +171,5 @@ int dak::read_section(const char **position, const char *end, media_description 
 
 int process_media_attribute(const char **position, const char *end, media_description *description)
 {
-    return read_section(position, end, description, read_attributes::kept);
+    return read_section(position, end, description, audience::caller);
 }

@@ -18,8 +18,18 @@ bool are_payloads_valid(const uint32_t *payload_numbers, int payload_count)
            (payload_count == 0 || payload_numbers != nullptr);
 }
 
-// Empties a record; of its texts, the first characters are enough. A body may name hundreds of formats, whose
-// records take 12 KB each.
+// Of a record's texts, the first characters are enough. A body may name hundreds of formats, whose records
+// take 12 KB each.
+void clear(media_info &info)
+{
+    for (int slot = 0; slot < MEDIA_INFO_MAX_SLOTS; slot++) {
+        info.param_name[slot][0] = '\0';
+        info.param_value[slot][0] = '\0';
+        info.param_present[slot] = 0;
+    }
+}
+
+// Empties a record but for its parameters, which a format gets with its name.
 void clear(media_codec &codec)
 {
     codec.rtpmap_valid = 0;
@@ -32,18 +42,38 @@ void clear(media_codec &codec)
         entry.fb_type = entry.ccm_subtype = entry.nack_subtype = 0;
         entry.fb_param[0] = '\0';
     }
-    for (int slot = 0; slot < MEDIA_INFO_MAX_SLOTS; slot++) {
-        codec.info.param_name[slot][0] = '\0';
-        codec.info.param_value[slot][0] = '\0';
-        codec.info.param_present[slot] = 0;
-    }
 }
 
-// Fills a zeroed section; what has to be released on failure is the caller's.
-int fill(media_description &description, text_range media_type, text_range transport_profile,
-         const uint32_t *payload_numbers, int payload_count)
+// The parts of a section that tell what is in the others.
+constexpr struct {
+    size_t first;
+    size_t last;
+} telling_parts[] = {
+    {0, offsetof(media_description, media_value_tags)},
+    {offsetof(media_description, media_value_present), offsetof(media_description, pcd_value)},
+    {offsetof(media_description, rtcp_fb), offsetof(media_description, rtcp_fb.fb_entries)},
+    {offsetof(media_description, accept_types), offsetof(media_description, path.user)},
+    {offsetof(media_description, max_size), offsetof(media_description, file_selectors)},
+    {offsetof(media_description, codec_capacity), sizeof(media_description)},
+};
+
+void clear(media_description &description, audience seen_by)
 {
-    if (!copy_text(description.media_type, media_type) || !allocate_codecs(description, payload_count))
+    if (seen_by == audience::caller) {
+        memset(&description, 0, sizeof description);
+        return;
+    }
+    auto *bytes = reinterpret_cast<char *>(&description);
+    for (const auto &part : telling_parts)
+        memset(bytes + part.first, 0, part.last - part.first);
+}
+
+// Fills an emptied section; what has to be released on failure is the caller's.
+int fill(media_description &description, text_range media_type, text_range transport_profile,
+         const uint32_t *payload_numbers, int payload_count, audience seen_by)
+{
+    if (!copy_text(description.media_type, media_type) ||
+        !allocate_codecs(description, payload_count, seen_by))
         return 0;
     if (!copy_text(description.transport_profile, transport_profile)) {
         DAK_LOG("Src str length exceeded dst str %lu \n",
@@ -60,7 +90,7 @@ int fill(media_description &description, text_range media_type, text_range trans
 
 } // namespace
 
-int dak::allocate_codecs(media_description &description, int count)
+int dak::allocate_codecs(media_description &description, int count, audience seen_by)
 {
     if (count == 0)
         return 1;
@@ -71,32 +101,44 @@ int dak::allocate_codecs(media_description &description, int count)
     const int kept = description.codecs != nullptr ? description.codec_capacity : 0;
     if (kept > 0)
         memcpy(codecs, description.codecs, static_cast<size_t>(kept) * sizeof(media_codec));
-    for (int i = kept; i < count; i++)
+    for (int i = kept; i < count; i++) {
         clear(codecs[i]);
+        if (seen_by == audience::caller)
+            clear(codecs[i].info);
+    }
     dak_free(description.codecs);
     description.codecs = codecs;
     description.codec_capacity = count;
     return 1;
 }
 
-media_description *init_media_description(const char *media_type, uint32_t port, uint32_t number_of_ports,
-                                          const char *transport_profile, const uint32_t *payload_numbers,
-                                          int payload_count)
+media_description *dak::new_media_description(text_range media_type, uint32_t port, uint32_t number_of_ports,
+                                              text_range transport_profile, const uint32_t *payload_numbers,
+                                              int payload_count, audience seen_by)
 {
-    if (media_type == nullptr || transport_profile == nullptr ||
-        !are_payloads_valid(payload_numbers, payload_count))
+    if (!are_payloads_valid(payload_numbers, payload_count))
         return fail_null();
     auto *description = static_cast<media_description *>(dak_malloc(sizeof(media_description)));
     if (description == nullptr)
         return fail_null();
-    memset(description, 0, sizeof *description);
-    if (!fill(*description, media_type, transport_profile, payload_numbers, payload_count)) {
+    clear(*description, seen_by);
+    if (!fill(*description, media_type, transport_profile, payload_numbers, payload_count, seen_by)) {
         clean_media_description(description);
         return fail_null();
     }
     description->media_port = port;
     description->number_of_media_port = number_of_ports;
     return description;
+}
+
+media_description *init_media_description(const char *media_type, uint32_t port, uint32_t number_of_ports,
+                                          const char *transport_profile, const uint32_t *payload_numbers,
+                                          int payload_count)
+{
+    if (media_type == nullptr || transport_profile == nullptr)
+        return fail_null();
+    return new_media_description(media_type, port, number_of_ports, transport_profile, payload_numbers,
+                                 payload_count, audience::caller);
 }
 
 media_description *init_empty_media_description(void)
