@@ -44,28 +44,21 @@ void clear(media_codec &codec)
     }
 }
 
-// The parts of a section that tell what is in the others.
-constexpr struct {
-    size_t first;
-    size_t last;
-} telling_parts[] = {
-    {0, offsetof(media_description, media_value_tags)},
-    {offsetof(media_description, media_value_present), offsetof(media_description, pcd_value)},
-    {offsetof(media_description, rtcp_fb), offsetof(media_description, rtcp_fb.fb_entries)},
-    {offsetof(media_description, accept_types), offsetof(media_description, path.user)},
-    {offsetof(media_description, max_size), offsetof(media_description, file_selectors)},
-    {offsetof(media_description, codec_capacity), sizeof(media_description)},
-};
-
-void clear(media_description &description, audience seen_by)
+template <size_t First, size_t Last> void zero(media_description &description)
 {
-    if (seen_by == audience::caller) {
-        memset(&description, 0, sizeof description);
-        return;
-    }
-    auto *bytes = reinterpret_cast<char *>(&description);
-    for (const auto &part : telling_parts)
-        memset(bytes + part.first, 0, part.last - part.first);
+    memset(reinterpret_cast<char *>(&description) + First, 0, Last - First);
+}
+
+// Zeroes the parts of a section that tell what is in the others.
+void clear(media_description &description)
+{
+    using section = media_description;
+    zero<0, offsetof(section, media_value_tags)>(description);
+    zero<offsetof(section, media_value_present), offsetof(section, pcd_value)>(description);
+    zero<offsetof(section, rtcp_fb), offsetof(section, rtcp_fb.fb_entries)>(description);
+    zero<offsetof(section, accept_types), offsetof(section, path.user)>(description);
+    zero<offsetof(section, max_size), offsetof(section, file_selectors)>(description);
+    zero<offsetof(section, codec_capacity), sizeof(section)>(description);
 }
 
 // Fills an emptied section; what has to be released on failure is the caller's.
@@ -121,7 +114,10 @@ media_description *dak::new_media_description(text_range media_type, uint32_t po
     auto *description = static_cast<media_description *>(dak_malloc(sizeof(media_description)));
     if (description == nullptr)
         return fail_null();
-    clear(*description, seen_by);
+    if (seen_by == audience::caller)
+        memset(description, 0, sizeof *description);
+    else
+        clear(*description);
     if (!fill(*description, media_type, transport_profile, payload_numbers, payload_count, seen_by)) {
         clean_media_description(description);
         return fail_null();
