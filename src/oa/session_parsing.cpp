@@ -240,7 +240,8 @@ uint32_t dak_app_oa_parse_session(sdp_lib_context *document, sdp_container *cont
 {
     if (!are_given(document, container, "dak_app_oa_parse_session: Incorrect params\n"))
         return SDP_OA_BAD_PARAMETERS;
-    return read_text(get_session_value(document, name_slot), container->session_name_present, container->session_name);
+    return read_text(get_session_value(document, name_slot), container->session_name_present,
+                     container->session_name);
 }
 
 uint32_t dak_app_oa_parse_sess_info(sdp_lib_context *document, sdp_container *container)
@@ -271,9 +272,8 @@ uint32_t dak_app_oa_parse_bandwidth(sdp_lib_context *document, sdp_container *co
     static constexpr bandwidth_reader reader = {"dak_app_oa_parse_bandwidth: No BW Info\n",
                                                 "dak_app_oa_parse_bandwidth: Invalid BW Info:        %lu\n",
                                                 SDP_OA_INVALID_CONTENT};
-    return parse_bandwidth(container->bandwidth, reader, [document](int k) {
-        return get_session_value(document, bandwidth_slot, k);
-    });
+    return parse_bandwidth(container->bandwidth, reader,
+                           [document](int k) { return get_session_value(document, bandwidth_slot, k); });
 }
 
 uint32_t dak_app_oa_parse_time(sdp_lib_context *document, sdp_container *container)
