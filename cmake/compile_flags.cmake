@@ -24,5 +24,11 @@ function(daksdp_library_flags target)
         -fno-semantic-interposition
         # Nothing is thrown through this library. The smallest build gives up backtraces out of it, too.
         "$<$<CONFIG:MinSizeRel>:-fno-unwind-tables;-fno-asynchronous-unwind-tables;-fomit-frame-pointer>")
+    if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|amd64)$")
+        # Texts are short: string instructions take longer to start than the C library to copy one, and its
+        # functions are called often enough for the way through the linkage table to be felt.
+        target_compile_options(${target} PRIVATE "$<$<NOT:$<CONFIG:MinSizeRel>>:-fno-plt>"
+            "$<$<AND:$<CXX_COMPILER_ID:GNU>,$<NOT:$<CONFIG:MinSizeRel>>>:-mstringop-strategy=libcall>")
+    endif()
     set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
 endfunction()

@@ -57,7 +57,7 @@ media_codec *prepare(const media_description *description, int index, const char
         return fail_null();
     media_codec *codec = codec_at(description, index);
     if (codec == nullptr)
-        return fail_null();
+        return nullptr;
     wanted = name;
     constexpr size_t size = sizeof codec->info.param_name[0];
     if (wanted.length() >= size) {

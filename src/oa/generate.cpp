@@ -1,6 +1,6 @@
 #include "oa/generate.h"
 
-#include "oa/media_generation.h"
+#include "oa/media_generation.hpp"
 #include "oa/result_code.h"
 #include "oa/session_generation.h"
 #include "sdp/context.hpp"
@@ -47,7 +47,7 @@ uint32_t build_document(sdp_lib_context *document, sdp_container *container)
         log_text(builder.failure);
         return result;
     }
-    const uint32_t result = dak_app_oa_encode_mlines(document, container);
+    const uint32_t result = encode_mlines(document, container, audience::container_layer);
     if (result != SDP_OA_SUCCESS)
         DAK_LOG(
             "dak_app_oa_generate_sdp: Error encoding media                                        lines\n");

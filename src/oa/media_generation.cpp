@@ -1,4 +1,4 @@
-#include "oa/media_generation.h"
+#include "oa/media_generation.hpp"
 
 #include "attr/precondition.hpp"
 #include "attr/rtcp_fb.h"
@@ -79,9 +79,26 @@ uint32_t build_section(media_description *md, sdp_media_line *mline)
     return SDP_OA_SUCCESS;
 }
 
-uint32_t encode_mline(sdp_lib_context *document, sdp_media_line *mline)
+// Creates the section of a media line; null for one that cannot be written.
+media_description *create_section(const sdp_media_line *mline, audience seen_by)
 {
-    media_description *md = dak_app_oa_encode_common_media_line(mline);
+    if (mline == nullptr)
+        return nullptr;
+    const word *transport = find_word(transport_words, mline->transport);
+    if (transport == nullptr || mline->transport == SDP_TCP_TLS_MSRP) {
+        DAK_LOG("encode_common_media_line: Invalid Profile");
+        return nullptr;
+    }
+    const word *media = find_word(media_words, mline->media_type);
+    if (media == nullptr || !can_be_written(mline->media_type))
+        return nullptr;
+    return new_media_description(media->text, mline->port, mline->num_ports, transport->text,
+                                 mline->payload_numbers, mline->num_formats, seen_by);
+}
+
+uint32_t encode_mline(sdp_lib_context *document, sdp_media_line *mline, audience seen_by)
+{
+    media_description *md = create_section(mline, seen_by);
     if (md == nullptr) {
         log_text(invalid_line);
         return SDP_OA_INVALID_CONTENT;
@@ -307,7 +324,7 @@ constexpr uint32_t (*attribute_builders[])(media_description *, const sdp_media_
 
 } // namespace
 
-uint32_t dak_app_oa_encode_mlines(sdp_lib_context *document, sdp_container *container)
+uint32_t dak::encode_mlines(sdp_lib_context *document, sdp_container *container, audience seen_by)
 {
     if (document == nullptr || container == nullptr) {
         DAK_LOG("dak_app_oa_encode_mlines: Incorrect params\n");
@@ -315,27 +332,21 @@ uint32_t dak_app_oa_encode_mlines(sdp_lib_context *document, sdp_container *cont
     }
     for (uint16_t i = 0; i < container->num_mlines; i++) {
         const uint32_t result =
-            encode_mline(document, container->mlines != nullptr ? &container->mlines[i] : nullptr);
+            encode_mline(document, container->mlines != nullptr ? &container->mlines[i] : nullptr, seen_by);
         if (result != SDP_OA_SUCCESS)
             return result;
     }
     return SDP_OA_SUCCESS;
 }
 
+uint32_t dak_app_oa_encode_mlines(sdp_lib_context *document, sdp_container *container)
+{
+    return encode_mlines(document, container, audience::caller);
+}
+
 media_description *dak_app_oa_encode_common_media_line(const sdp_media_line *mline)
 {
-    if (mline == nullptr)
-        return nullptr;
-    const word *transport = find_word(transport_words, mline->transport);
-    if (transport == nullptr || mline->transport == SDP_TCP_TLS_MSRP) {
-        DAK_LOG("encode_common_media_line: Invalid Profile");
-        return nullptr;
-    }
-    const word *media = find_word(media_words, mline->media_type);
-    if (media == nullptr || !can_be_written(mline->media_type))
-        return nullptr;
-    return init_media_description(media->text.c_str(), mline->port, mline->num_ports, transport->text.c_str(),
-                                  mline->payload_numbers, mline->num_formats);
+    return create_section(mline, audience::caller);
 }
 
 uint32_t dak_app_oa_encode_media_bandwidth(media_description *md, const sdp_bandwidth *bandwidth)

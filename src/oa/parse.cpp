@@ -4,7 +4,7 @@
 #include "oa/result_code.h"
 #include "oa/session_parsing.h"
 #include "sdp/context.hpp"
-#include "sdp/parser.h"
+#include "sdp/parser.hpp"
 #include "util/report.hpp"
 
 #include <string.h>
@@ -55,7 +55,7 @@ uint32_t read_document(sdp_lib_context *document, sdp_container *container)
 
 uint32_t read_text(sdp_lib_context *document, sdp_container *container, const sdp_payload_buffer &buffer)
 {
-    if (sdp_parse(document, buffer.text, buffer.capacity))
+    if (parse(document, buffer.text, buffer.capacity, audience::container_layer))
         return read_document(document, container);
     DAK_LOG("dak_app_oa_parse_sdp: SDP Core parse error");
     return SDP_OA_UNUSABLE;

@@ -7,6 +7,7 @@
 #include "oa/words.hpp"
 #include "sdp/document.hpp"
 #include "sdp/session_values.h"
+#include "sdp/session_values.hpp"
 #include "util/heap_text.hpp"
 #include "util/number.h"
 
@@ -22,11 +23,6 @@ bool are_given(const sdp_lib_context *document, const sdp_container *container, 
         return true;
     log_text(null_text);
     return false;
-}
-
-const char *value_of(sdp_lib_context *document, const char *tag)
-{
-    return get_session_value(document, SDP_PARSER_DOCUMENT, tag);
 }
 
 // Fills a heap copy of a value; `no_memory` is logged when there is none.
@@ -125,8 +121,10 @@ uint32_t read_times(const char *value, sdp_container &container)
 
 void read_direction(sdp_lib_context *document, sdp_container &container)
 {
-    char value[text_size] = "";
     container.direction_present = 0;
+    if (get_session_value(document, attribute_slot) == nullptr)
+        return;
+    char value[text_size] = "";
     for (const word &direction : direction_words) {
         if (!get_session_attribute_value(document, SDP_PARSER_DOCUMENT, direction.text.c_str(), value))
             continue;
@@ -210,7 +208,7 @@ uint32_t dak_app_oa_parse_version(sdp_lib_context *document, sdp_container *cont
 {
     if (!are_given(document, container, "dak_app_oa_parse_version: Incorrect params\n"))
         return SDP_OA_BAD_PARAMETERS;
-    const char *value = value_of(document, "v=");
+    const char *value = get_session_value(document, version_slot);
     if (value == nullptr) {
         DAK_LOG("dak_app_oa_parse_version: Invalid                                     version info\n");
         return SDP_OA_UNUSABLE;
@@ -227,7 +225,7 @@ uint32_t dak_app_oa_parse_origin(sdp_lib_context *document, sdp_container *conta
     if (!are_given(document, container, "dak_app_oa_parse_origin: Incorrect params\n"))
         return SDP_OA_BAD_PARAMETERS;
     container->origin_address.addr_type = SDP_ADDR_NOT_SET;
-    const char *value = value_of(document, "o=");
+    const char *value = get_session_value(document, origin_slot);
     if (value == nullptr) {
         DAK_LOG("dak_app_oa_parse_origin:No Origin info\n");
         return SDP_OA_BAD_PARAMETERS;
@@ -242,21 +240,22 @@ uint32_t dak_app_oa_parse_session(sdp_lib_context *document, sdp_container *cont
 {
     if (!are_given(document, container, "dak_app_oa_parse_session: Incorrect params\n"))
         return SDP_OA_BAD_PARAMETERS;
-    return read_text(value_of(document, "s="), container->session_name_present, container->session_name);
+    return read_text(get_session_value(document, name_slot), container->session_name_present,
+                     container->session_name);
 }
 
 uint32_t dak_app_oa_parse_sess_info(sdp_lib_context *document, sdp_container *container)
 {
     if (!are_given(document, container, "dak_app_oa_parse_sess_info: Incorrect params\n"))
         return SDP_OA_BAD_PARAMETERS;
-    return read_text(value_of(document, "i="), container->info_present, container->info);
+    return read_text(get_session_value(document, information_slot), container->info_present, container->info);
 }
 
 uint32_t dak_app_oa_parse_connection(sdp_lib_context *document, sdp_container *container)
 {
     if (!are_given(document, container, "dak_app_oa_parse_connection: No Conn Info\n"))
         return SDP_OA_BAD_PARAMETERS;
-    const char *value = value_of(document, "c=");
+    const char *value = get_session_value(document, connection_slot);
     if (value == nullptr)
         return SDP_OA_SUCCESS;
     container->connection_present = 1;
@@ -273,16 +272,15 @@ uint32_t dak_app_oa_parse_bandwidth(sdp_lib_context *document, sdp_container *co
     static constexpr bandwidth_reader reader = {"dak_app_oa_parse_bandwidth: No BW Info\n",
                                                 "dak_app_oa_parse_bandwidth: Invalid BW Info:        %lu\n",
                                                 SDP_OA_INVALID_CONTENT};
-    return parse_bandwidth(container->bandwidth, reader, [document](int k) {
-        return get_particular_index_of_session_value(document, SDP_PARSER_DOCUMENT, "b=", k);
-    });
+    return parse_bandwidth(container->bandwidth, reader,
+                           [document](int k) { return get_session_value(document, bandwidth_slot, k); });
 }
 
 uint32_t dak_app_oa_parse_time(sdp_lib_context *document, sdp_container *container)
 {
     if (!are_given(document, container, "dak_app_oa_parse_time: Incorrect params\n"))
         return SDP_OA_BAD_PARAMETERS;
-    const char *value = value_of(document, "t=");
+    const char *value = get_session_value(document, time_slot);
     if (value == nullptr) {
         DAK_LOG("dak_app_oa_parse_time: No time info\n");
         return SDP_OA_BAD_PARAMETERS;
@@ -302,7 +300,7 @@ uint32_t dak_app_oa_parse_group_attr(sdp_lib_context *document, sdp_container *c
 {
     if (!are_given(document, container, "dak_app_oa_parse_group_attr: invalid i/p args \n"))
         return SDP_OA_BAD_PARAMETERS;
-    const char *first = value_of(document, "a=");
+    const char *first = get_session_value(document, attribute_slot);
     if (first == nullptr)
         return SDP_OA_SUCCESS;
     group_reader reader(*container);

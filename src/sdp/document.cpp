@@ -14,15 +14,6 @@ constexpr size_t tag_length = 2;
 constexpr char session_tags[SDP_SESSION_SLOTS][tag_length + 1] = {
     "v=", "o=", "s=", "i=", "u=", "e=", "p=", "c=", "b=", "t=", "r=", "z=", "k=", "a="};
 
-bool is_owned(const sdp_info_container &document, const media_description *description)
-{
-    for (const media_description *place : document.media_descriptions) {
-        if (place == description)
-            return true;
-    }
-    return false;
-}
-
 } // namespace
 
 sdp_info_container *dak::selected_document(const sdp_lib_context *context, int selector)
@@ -83,9 +74,10 @@ int add_media_description(sdp_info_container *document, media_description *descr
 {
     if (document == nullptr || description == nullptr)
         return fail();
-    if (is_owned(*document, description))
-        return fail(); // a second place would free it twice
+    // Places are filled from the first; a second one would free the section twice.
     for (media_description *&place : document->media_descriptions) {
+        if (place == description)
+            return fail();
         if (place != nullptr)
             continue;
         place = description;

@@ -11,6 +11,7 @@
 #include "sdp/attribute_nodes.hpp"
 #include "sdp/media_codecs.h"
 #include "sdp/media_values.h"
+#include "sdp/parser.hpp"
 #include "sdp/rtcp_address.h"
 #include "sdp/rtpmap.h"
 #include "sdp/section_lines.hpp"
@@ -124,8 +125,14 @@ const attribute_reader *find_reader(text_range attribute)
     return nullptr;
 }
 
-// Every attribute but rtpmap is kept as text too, whether it was read into a record or not.
-void read_attribute(media_description *description, text_range line)
+// Dropping an attribute must not drop a report: that of one too long to be kept, or of memory that ran out.
+bool is_dropped(const media_description &description, text_range attribute)
+{
+    return attribute.length() < sizeof session_value::text - 1 && description.attribute_block != nullptr;
+}
+
+// Every attribute but rtpmap is a generic one too, whether it was read into a record or not.
+void read_attribute(media_description *description, text_range line, audience seen_by)
 {
     const text_range attribute(line.first + 2, line.last);
     if (attribute.begins_with("rtpmap"))
@@ -133,20 +140,22 @@ void read_attribute(media_description *description, text_range line)
     const attribute_reader *reader = find_reader(attribute);
     if (reader != nullptr && !reader->read(description, line.first, line.last))
         log_text(reader->failure);
-    parse_sdp_attribute(description, line.first, line.last);
+    if (reader == nullptr || seen_by == audience::caller || !is_dropped(*description, attribute))
+        parse_sdp_attribute(description, line.first, line.last);
 }
 
-void read_line(media_description *description, text_range line)
+void read_line(media_description *description, text_range line, audience seen_by)
 {
     if (line.begins_with("a="))
-        read_attribute(description, line);
+        read_attribute(description, line, seen_by);
     else if (!parse_media_description_value(description, line.first, line.last))
         DAK_LOG("parse media attribute val ");
 }
 
 } // namespace
 
-int process_media_attribute(const char **position, const char *end, media_description *description)
+int dak::read_section(const char **position, const char *end, media_description *description,
+                      audience seen_by)
 {
     if (position == nullptr || *position == nullptr || end == nullptr || description == nullptr)
         return fail();
@@ -154,8 +163,13 @@ int process_media_attribute(const char **position, const char *end, media_descri
     reserve_attributes(*description, read_bindings(description, lines));
     lines.rewind();
     for (text_range line = lines.next(); !line.empty(); line = lines.next()) {
-        read_line(description, line);
+        read_line(description, line, seen_by);
         *position = line.last;
     }
     return 1;
+}
+
+int process_media_attribute(const char **position, const char *end, media_description *description)
+{
+    return read_section(position, end, description, audience::caller);
 }

@@ -60,7 +60,7 @@ int set_payload_number(media_description *description, int32_t payload_number)
     if (count == SDP_MAX_PAYLOADS)
         return fail();
     const bool needs_codec = description->codecs != nullptr && description->codec_capacity <= count;
-    if (needs_codec && !allocate_codecs(*description, count + 1))
+    if (needs_codec && !allocate_codecs(*description, count + 1, audience::caller))
         return fail();
     description->payload_numbers[count] = payload_number;
     description->number_of_payload = count + 1;

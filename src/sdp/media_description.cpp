@@ -18,8 +18,18 @@ bool are_payloads_valid(const uint32_t *payload_numbers, int payload_count)
            (payload_count == 0 || payload_numbers != nullptr);
 }
 
-// Empties a record; of its texts, the first characters are enough. A body may name hundreds of formats, whose
-// records take 12 KB each.
+// Of a record's texts, the first characters are enough. A body may name hundreds of formats, whose records
+// take 12 KB each.
+void clear(media_info &info)
+{
+    for (int slot = 0; slot < MEDIA_INFO_MAX_SLOTS; slot++) {
+        info.param_name[slot][0] = '\0';
+        info.param_value[slot][0] = '\0';
+        info.param_present[slot] = 0;
+    }
+}
+
+// Empties a record but for its parameters, which a format gets with its name.
 void clear(media_codec &codec)
 {
     codec.rtpmap_valid = 0;
@@ -32,18 +42,31 @@ void clear(media_codec &codec)
         entry.fb_type = entry.ccm_subtype = entry.nack_subtype = 0;
         entry.fb_param[0] = '\0';
     }
-    for (int slot = 0; slot < MEDIA_INFO_MAX_SLOTS; slot++) {
-        codec.info.param_name[slot][0] = '\0';
-        codec.info.param_value[slot][0] = '\0';
-        codec.info.param_present[slot] = 0;
-    }
 }
 
-// Fills a zeroed section; what has to be released on failure is the caller's.
-int fill(media_description &description, text_range media_type, text_range transport_profile,
-         const uint32_t *payload_numbers, int payload_count)
+template <size_t First, size_t Last> void zero(media_description &description)
 {
-    if (!copy_text(description.media_type, media_type) || !allocate_codecs(description, payload_count))
+    memset(reinterpret_cast<char *>(&description) + First, 0, Last - First);
+}
+
+// Zeroes the parts of a section that tell what is in the others.
+void clear(media_description &description)
+{
+    using section = media_description;
+    zero<0, offsetof(section, media_value_tags)>(description);
+    zero<offsetof(section, media_value_present), offsetof(section, pcd_value)>(description);
+    zero<offsetof(section, rtcp_fb), offsetof(section, rtcp_fb.fb_entries)>(description);
+    zero<offsetof(section, accept_types), offsetof(section, path.user)>(description);
+    zero<offsetof(section, max_size), offsetof(section, file_selectors)>(description);
+    zero<offsetof(section, codec_capacity), sizeof(section)>(description);
+}
+
+// Fills an emptied section; what has to be released on failure is the caller's.
+int fill(media_description &description, text_range media_type, text_range transport_profile,
+         const uint32_t *payload_numbers, int payload_count, audience seen_by)
+{
+    if (!copy_text(description.media_type, media_type) ||
+        !allocate_codecs(description, payload_count, seen_by))
         return 0;
     if (!copy_text(description.transport_profile, transport_profile)) {
         DAK_LOG("Src str length exceeded dst str %lu \n",
@@ -60,7 +83,7 @@ int fill(media_description &description, text_range media_type, text_range trans
 
 } // namespace
 
-int dak::allocate_codecs(media_description &description, int count)
+int dak::allocate_codecs(media_description &description, int count, audience seen_by)
 {
     if (count == 0)
         return 1;
@@ -71,32 +94,47 @@ int dak::allocate_codecs(media_description &description, int count)
     const int kept = description.codecs != nullptr ? description.codec_capacity : 0;
     if (kept > 0)
         memcpy(codecs, description.codecs, static_cast<size_t>(kept) * sizeof(media_codec));
-    for (int i = kept; i < count; i++)
+    for (int i = kept; i < count; i++) {
         clear(codecs[i]);
+        if (seen_by == audience::caller)
+            clear(codecs[i].info);
+    }
     dak_free(description.codecs);
     description.codecs = codecs;
     description.codec_capacity = count;
     return 1;
 }
 
-media_description *init_media_description(const char *media_type, uint32_t port, uint32_t number_of_ports,
-                                          const char *transport_profile, const uint32_t *payload_numbers,
-                                          int payload_count)
+media_description *dak::new_media_description(text_range media_type, uint32_t port, uint32_t number_of_ports,
+                                              text_range transport_profile, const uint32_t *payload_numbers,
+                                              int payload_count, audience seen_by)
 {
-    if (media_type == nullptr || transport_profile == nullptr ||
-        !are_payloads_valid(payload_numbers, payload_count))
+    if (!are_payloads_valid(payload_numbers, payload_count))
         return fail_null();
     auto *description = static_cast<media_description *>(dak_malloc(sizeof(media_description)));
     if (description == nullptr)
         return fail_null();
-    memset(description, 0, sizeof *description);
-    if (!fill(*description, media_type, transport_profile, payload_numbers, payload_count)) {
+    if (seen_by == audience::caller)
+        memset(description, 0, sizeof *description);
+    else
+        clear(*description);
+    if (!fill(*description, media_type, transport_profile, payload_numbers, payload_count, seen_by)) {
         clean_media_description(description);
         return fail_null();
     }
     description->media_port = port;
     description->number_of_media_port = number_of_ports;
     return description;
+}
+
+media_description *init_media_description(const char *media_type, uint32_t port, uint32_t number_of_ports,
+                                          const char *transport_profile, const uint32_t *payload_numbers,
+                                          int payload_count)
+{
+    if (media_type == nullptr || transport_profile == nullptr)
+        return fail_null();
+    return new_media_description(media_type, port, number_of_ports, transport_profile, payload_numbers,
+                                 payload_count, audience::caller);
 }
 
 media_description *init_empty_media_description(void)

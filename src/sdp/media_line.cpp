@@ -6,7 +6,7 @@
 #include "sdp/line_match.h"
 #include "sdp/media_codecs.h"
 #include "sdp/media_description.h"
-#include "sdp/media_description.hpp"
+#include "sdp/parser.hpp"
 #include "util/line_scan.h"
 #include "util/number.hpp"
 #include "util/report.hpp"
@@ -67,7 +67,8 @@ int read_fields(media_description *description, const char *position, const char
 
 } // namespace
 
-int process_media_description(const char *line_start, const char *line_end, media_description *description)
+int dak::read_media_line(const char *line_start, const char *line_end, media_description *description,
+                         audience seen_by)
 {
     const char *start = skip_whitespace(line_start, line_end);
     if (description == nullptr || start == nullptr || line_end == nullptr ||
@@ -76,5 +77,10 @@ int process_media_description(const char *line_start, const char *line_end, medi
     if (!read_fields(description, start + 2, line_end))
         return fail();
     const int count = payload_count(*description);
-    return description->codec_capacity >= count || allocate_codecs(*description, count) ? 1 : fail();
+    return description->codec_capacity >= count || allocate_codecs(*description, count, seen_by) ? 1 : fail();
+}
+
+int process_media_description(const char *line_start, const char *line_end, media_description *description)
+{
+    return read_media_line(line_start, line_end, description, audience::caller);
 }

@@ -16,14 +16,9 @@ constexpr int no_slot = -1;
 // Whether the two characters of a slot's tag begin a text, case-sensitively.
 bool is_tagged(const media_description &description, int slot, text_range text)
 {
-    const char(&tag)[200] = description.media_value_tags[slot];
-    size_t length = 0;
-    while (length < sizeof tag && tag[length] != '\0') {
-        if (length == text.length() || text.first[length] != tag[length])
-            return false;
-        length++;
-    }
-    return true;
+    constexpr size_t tag_length = 2;
+    return text.length() >= tag_length &&
+           memcmp(description.media_value_tags[slot], text.first, tag_length) == 0;
 }
 
 // The first free slot that `matches`, or no_slot.

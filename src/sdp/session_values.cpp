@@ -48,12 +48,29 @@ int store(sdp_info_container &document, int slot, text_range value)
     return copy_text(node->text, value) ? 1 : fail_as_too_long();
 }
 
+// A line of a slot; null when there are no more than `position`.
+const char *value_at(const sdp_info_container &document, int slot, int position)
+{
+    if (document.value_present[slot] != 1)
+        return nullptr;
+    if (position == 0)
+        return document.values[slot];
+    const session_value *node = dak_sdp_traverse_list(document.extra_values[slot], position);
+    return node != nullptr ? node->text : nullptr;
+}
+
 } // namespace
 
 int dak::set_session_value(sdp_lib_context *context, session_slot slot, text_range value)
 {
     sdp_info_container *document = selected_document(context, SDP_ENCODER_DOCUMENT);
     return document != nullptr ? store(*document, slot, value) : 0;
+}
+
+const char *dak::get_session_value(const sdp_lib_context *context, session_slot slot, int position)
+{
+    const sdp_info_container *document = selected_document(context, SDP_PARSER_DOCUMENT);
+    return document != nullptr ? value_at(*document, slot, position) : nullptr;
 }
 
 int set_session_value(sdp_lib_context *context, int selector, const char *tag, const char *value)
@@ -107,14 +124,7 @@ const char *get_seesion_value_by_sdp_container(sdp_info_container *document, con
     if (wanted.empty())
         return nullptr;
     const int slot = find_slot(*document, wanted);
-    if (slot == no_slot)
-        return fail_null();
-    if (document->value_present[slot] != 1)
-        return nullptr;
-    if (position == 0)
-        return document->values[slot];
-    const session_value *node = dak_sdp_traverse_list(document->extra_values[slot], position);
-    return node != nullptr ? node->text : nullptr;
+    return slot != no_slot ? value_at(*document, slot, position) : fail_null();
 }
 
 session_value *dak_sdp_traverse_list(session_value *head, int position)

@@ -121,7 +121,7 @@ uint32_t dak_app_sdp_encode_amr(media_description *md, uint16_t codec_index, voi
         DAK_LOG("dak_app_sdp_encode_amr:No AMR mode\n");
         return SDP_OA_BAD_PARAMETERS;
     }
-    return dak_app_sdp_set_string_inmline(md, codec_index, modes, "mode-set");
+    return writer.text(true, modes, "mode-set").result();
 }
 
 uint32_t dak_app_sdp_decode_amr(media_description *md, uint16_t codec_index, void *block)

@@ -100,7 +100,7 @@ uint32_t dak_app_sdp_encode_tel_event(media_description *md, uint16_t codec_inde
     const uint32_t result = write_events(list, tel_event, count);
     if (result != SDP_OA_SUCCESS || count == 0)
         return result;
-    return dak_app_sdp_set_string_inmline(md, codec_index, list.c_str(), "events");
+    return parameter_writer(md, codec_index).text(true, list.text(), "events").result();
 }
 
 uint32_t dak_app_sdp_decode_tel_event(media_description *md, uint16_t codec_index, void *block)
