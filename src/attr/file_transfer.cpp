@@ -113,11 +113,13 @@ void dak_sdp_get_message_file_selector_attrs(sdp_file_selector *out, const media
         dak_assert_failed();
         return;
     }
+    if (description != nullptr && is_selector(index)) {
+        *out = description->file_selectors[index];
+        return;
+    }
     *out = {};
     if (description == nullptr)
         report_missing_description();
-    else if (!is_selector(index))
-        dak_assert_failed();
     else
-        *out = description->file_selectors[index];
+        dak_assert_failed();
 }

@@ -108,8 +108,9 @@ int dak_sdp_parse_a_equal_path_line(media_description *description, const char *
 {
     return read_message_line(description, line_start, line_end,
                              [](media_description &section, text_range value) {
-                                 sdp_path_attr path = {};
-                                 section.path = read_path(path, value) ? path : sdp_path_attr{};
+                                 section.path = {};
+                                 if (!read_path(section.path, value))
+                                     section.path = {};
                              });
 }
 

@@ -10,7 +10,7 @@
 #include "oa/result_code.h"
 #include "oa/truncation.hpp"
 #include "oa/words.hpp"
-#include "sdp/attribute_lines.h"
+#include "sdp/attribute_lines.hpp"
 #include "sdp/document.h"
 #include "sdp/media_description.h"
 #include "sdp/media_values.h"
@@ -40,12 +40,12 @@ public:
     }
 
     // The value is empty for an attribute without a colon.
-    bool find(const char *name, char (&value)[value_size]) const
+    bool find(text_range name, char (&value)[value_size]) const
     {
-        if ((beginnings_ & beginning(name)) == 0)
+        if ((beginnings_ & beginning(name.first)) == 0)
             return false;
         value[0] = '\0';
-        return get_media_description_attribute(&md_, name, value);
+        return find_attribute(md_, name, value);
     }
 
     // The first word of a table that begins an attribute, or null.
@@ -53,7 +53,7 @@ public:
     {
         char value[value_size];
         for (const Word &candidate : words) {
-            if (find(candidate.text.c_str(), value))
+            if (find(candidate.text, value))
                 return &candidate;
         }
         return nullptr;

@@ -22,6 +22,13 @@ extern "C" {
 #define DAK_PRINTF_LIKE(format_index, first_argument)
 #endif
 
+/** Tells the compiler that a call is unlikely, so that what leads to it stands out of the way. */
+#if defined(__GNUC__)
+#define DAK_RARELY_CALLED __attribute__((__cold__))
+#else
+#define DAK_RARELY_CALLED
+#endif
+
 /** The log priority of an error, the only one that the library uses. */
 #define DAK_LOG_ERROR 6
 
@@ -58,7 +65,7 @@ char *dak_strtok(char *text, const char *delimiters, char **save);
  * Reports that an operation failed. It only reports: control returns to the caller, which then returns its
  * own failure value.
  */
-void dak_assert_failed(void);
+void dak_assert_failed(void) DAK_RARELY_CALLED;
 
 /**
  * Converts an address from text to its binary form in network byte order.
@@ -78,7 +85,8 @@ int platInetPton(int family, const char *text, void *destination);
  * @param format    as printf has it, with its arguments behind it
  * @return          non-negative, or a negative number when the line was not logged
  */
-int __android_log_print(int priority, const char *tag, const char *format, ...) DAK_PRINTF_LIKE(3, 4);
+int __android_log_print(int priority, const char *tag, const char *format, ...)
+    DAK_PRINTF_LIKE(3, 4) DAK_RARELY_CALLED;
 
 #ifdef __cplusplus
 }

@@ -83,6 +83,16 @@ int dak::set_attribute(media_description &description, text_range name, const te
     return copy_text(node->text, text_range(node->text, length).trimmed());
 }
 
+bool dak::find_attribute(const media_description &description, text_range name, char *destination)
+{
+    for (const session_value *node = description.attributes; node != nullptr; node = node->next) {
+        if ((name.empty() || *node->text == *name.first) && begins_with(node->text, name) &&
+            copy_value(node->text, ":", destination))
+            return true;
+    }
+    return false;
+}
+
 int set_media_description_attribute(media_description *description, const char *name, const char *value)
 {
     if (description == nullptr || name == nullptr)
@@ -95,13 +105,7 @@ int get_media_description_attribute(const media_description *description, const 
 {
     if (description == nullptr || name == nullptr || destination == nullptr)
         return fail();
-    const text_range wanted(name);
-    for (const session_value *node = description->attributes; node != nullptr; node = node->next) {
-        if ((*node->text == *name || *name == '\0') && begins_with(node->text, wanted) &&
-            find_type_return_value(node->text, name, ":", destination))
-            return 1;
-    }
-    return 0;
+    return find_attribute(*description, name, destination);
 }
 
 int dak_encode_media_attribute(sdp_lib_context *context, media_description *description)

@@ -12,11 +12,11 @@ namespace {
 
 constexpr ptrdiff_t max_received_value = 198;
 constexpr int no_slot = -1;
+constexpr size_t tag_length = 2;
 
 // Whether the two characters of a slot's tag begin a text, case-sensitively.
 bool is_tagged(const media_description &description, int slot, text_range text)
 {
-    constexpr size_t tag_length = 2;
     return text.length() >= tag_length &&
            memcmp(description.media_value_tags[slot], text.first, tag_length) == 0;
 }
@@ -90,7 +90,9 @@ const char *get_media_description_value_by_index(const media_description *descri
 {
     if (description == nullptr || type == nullptr)
         return fail_null();
-    const text_range wanted(type);
+    if (type[0] == '\0' || type[1] == '\0')
+        return nullptr;
+    const text_range wanted(type, tag_length);
     int match = 0;
     for (int slot = 0; slot < SDP_MEDIA_VALUE_SLOTS; slot++) {
         if (!is_tagged(*description, slot, wanted))

@@ -148,7 +148,7 @@ int get_session_attribute_value(sdp_lib_context *context, int selector, const ch
     const text_range wanted(name);
     const session_value *node = document->extra_values[attribute_slot];
     for (; node != nullptr; node = node->next) {
-        if (begins_with(node->text, wanted) && find_type_return_value(node->text, name, ":", destination))
+        if (begins_with(node->text, wanted) && copy_value(node->text, ":", destination))
             return 1;
     }
     return 0;

@@ -22,7 +22,7 @@ inline int fail()
 }
 
 // Logs a text of the library's own that holds no conversion, such as one from a table.
-void log_text(const char *text);
+void log_text(const char *text) DAK_RARELY_CALLED;
 
 // Does not compile for a text with a conversion, which needs a value.
 consteval const char *without_conversions(const char *text)

@@ -78,8 +78,11 @@ int find_type_return_value(const char *line, const char *name, const char *separ
 {
     if (line == nullptr || name == nullptr || separator == nullptr || destination == nullptr)
         return fail();
-    if (!begins_with(line, name))
-        return 0;
+    return begins_with(line, name) ? copy_value(line, separator, destination) : 0;
+}
+
+int dak::copy_value(const char *line, const char *separator, char *destination)
+{
     const char *found = strstr(line, separator);
     if (found == nullptr)
         return 1;

@@ -56,6 +56,9 @@ inline bool take_token(const char *base, ptrdiff_t offset, const char *end, cons
            take_token(base + offset, end, delimiter, token);
 }
 
+// What find_type_return_value() does with a line of the type asked for.
+int copy_value(const char *line, const char *separator, char *destination);
+
 // Whether a terminated text begins with a name that has no NUL.
 inline bool begins_with(const char *text, text_range name)
 {
