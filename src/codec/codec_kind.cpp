@@ -1,7 +1,7 @@
 #include "codec/codec_kind.h"
 
-#include "codec/media_value.h"
 #include "codec/codec_kinds.hpp"
+#include "codec/media_value.h"
 #include "codec/parameters.hpp"
 #include "sdp/codec_access.hpp"
 

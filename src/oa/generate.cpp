@@ -5,8 +5,8 @@
 #include "oa/session_generation.h"
 #include "sdp/context.hpp"
 #include "sdp/encoder.h"
-#include "util/bounded_text.hpp"
 #include "sdp/text_buffer.h"
+#include "util/bounded_text.hpp"
 #include "util/report.hpp"
 
 using namespace dak;

@@ -74,16 +74,17 @@ int add_media_description(sdp_info_container *document, media_description *descr
 {
     if (document == nullptr || description == nullptr)
         return fail();
-    // Places are filled from the first; a second one would free the section twice.
+    media_description **free_place = nullptr;
     for (media_description *&place : document->media_descriptions) {
         if (place == description)
-            return fail();
-        if (place != nullptr)
-            continue;
-        place = description;
-        return 1;
+            return fail(); // a second place would free it twice
+        if (place == nullptr && free_place == nullptr)
+            free_place = &place;
     }
-    return fail();
+    if (free_place == nullptr)
+        return fail();
+    *free_place = description;
+    return 1;
 }
 
 int add_media_description_to_sdp_container(sdp_info_container *document, media_description *description)

@@ -125,13 +125,14 @@ const attribute_reader *find_reader(text_range attribute)
     return nullptr;
 }
 
-// Dropping an attribute must not drop a report: that of one too long to be kept, or of memory that ran out.
-bool is_dropped(const media_description &description, text_range attribute)
+// Whether nothing would be reported if an attribute were kept: that it is too long, or that memory ran out.
+bool is_kept_silently(const media_description &description, text_range attribute)
 {
     return attribute.length() < sizeof session_value::text - 1 && description.attribute_block != nullptr;
 }
 
-// Every attribute but rtpmap is a generic one too, whether it was read into a record or not.
+// Every attribute but rtpmap is a generic one too, whether it was read into a record or not; the container
+// layer looks for no text of those that a reader takes.
 void read_attribute(media_description *description, text_range line, audience seen_by)
 {
     const text_range attribute(line.first + 2, line.last);
@@ -140,7 +141,8 @@ void read_attribute(media_description *description, text_range line, audience se
     const attribute_reader *reader = find_reader(attribute);
     if (reader != nullptr && !reader->read(description, line.first, line.last))
         log_text(reader->failure);
-    if (reader == nullptr || seen_by == audience::caller || !is_dropped(*description, attribute))
+    const bool is_wanted = reader == nullptr || seen_by == audience::caller;
+    if (is_wanted || !is_kept_silently(*description, attribute))
         parse_sdp_attribute(description, line.first, line.last);
 }
 
