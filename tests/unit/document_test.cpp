@@ -50,6 +50,8 @@ TEST_F(Document, a_gap_is_not_counted_and_cannot_be_written)
     sdp_info_container *document = context->encoder_document;
     document->media_descriptions[0] = new_section("RTP/AVP").release();
     document->media_descriptions[2] = std::exchange(section, nullptr);
+    EXPECT_EQ(call(add_media_description, document, document->media_descriptions[2]), refused)
+        << "a second place would free it twice";
     EXPECT_EQ(get_number_of_media_description(context, 0), 2);
     EXPECT_EQ(get_number_of_media_description(context, 1), 0);
     EXPECT_EQ(call(get_number_of_media_description, context, 2), refused);
