@@ -25,10 +25,11 @@ function(daksdp_library_flags target)
         # Nothing is thrown through this library. The smallest build gives up backtraces out of it, too.
         "$<$<CONFIG:MinSizeRel>:-fno-unwind-tables;-fno-asynchronous-unwind-tables;-fomit-frame-pointer>")
     # With debugging information the code of Release, which is made for speed. GCC would call many of the
-    # functions that it may inline: most of them are short and have few callers.
+    # functions that it may inline: most of them are short and have few callers, and the shared library, whose
+    # exports all stay, may grow by as much as it has.
     if(NOT DAKSDP_SANITIZE AND NOT DAKSDP_FUZZ)
         target_compile_options(${target} PRIVATE "$<$<CONFIG:RelWithDebInfo>:-O3>"
-            "$<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release,RelWithDebInfo>>:--param=max-inline-insns-auto=60>")
+            "$<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release,RelWithDebInfo>>:--param=max-inline-insns-auto=60;--param=inline-unit-growth=100>")
     endif()
     if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|amd64)$")
         # Texts are short: string instructions take longer to start than the C library to copy one, and its

@@ -7,8 +7,8 @@ add_library(daksdp_objects OBJECT ${daksdp_sources})
 daksdp_library_flags(daksdp_objects)
 target_include_directories(daksdp_objects PRIVATE ${PROJECT_SOURCE_DIR}/src)
 
-# The smallest shared library is optimised as a whole, which takes objects that no other compiler can read.
-if(CMAKE_BUILD_TYPE STREQUAL "MinSizeRel")
+# A released shared library is optimised as a whole, which takes objects that no other compiler can read.
+if(CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$" AND NOT DAKSDP_SANITIZE AND NOT DAKSDP_FUZZ)
     include(CheckIPOSupported)
     check_ipo_supported(RESULT daksdp_is_whole LANGUAGES CXX)
 endif()
@@ -17,6 +17,8 @@ if(daksdp_is_whole)
     add_library(daksdp SHARED ${daksdp_sources})
     daksdp_library_flags(daksdp)
     set_target_properties(daksdp PROPERTIES INTERPROCEDURAL_OPTIMIZATION ON)
+    # In one piece, which is small enough for that: code that is split is inlined less.
+    target_link_options(daksdp PRIVATE $<$<C_COMPILER_ID:GNU>:-flto-partition=one>)
     # Addresses of this model reach a megabyte, which is more than there is.
     if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)")
         target_compile_options(daksdp PRIVATE -mcmodel=tiny)
