@@ -1,4 +1,4 @@
-// The bodies that are measured, of examples/.
+// Bodies of examples/: those that are measured, and all.
 #ifndef DAKSDP_BENCH_BODIES_HPP
 #define DAKSDP_BENCH_BODIES_HPP
 
@@ -31,6 +31,16 @@ inline std::vector<body> measured_bodies()
             {"vilte_offer", example("vilte_offer"), example("vilte_answer")},
             {"msrp_file_transfer", example("msrp_file_transfer"), example("msrp_file_transfer")},
             {"many_media", example("many_media"), example("many_media")}};
+}
+
+// The measured bodies, and each of examples/ as its own answer.
+inline std::vector<body> all_bodies()
+{
+    std::vector<body> bodies = measured_bodies();
+    for (const auto &file : std::filesystem::directory_iterator(DAKSDP_EXAMPLES))
+        if (file.path().extension() == ".sdp")
+            bodies.push_back({file.path().stem(), example(file.path().stem()), example(file.path().stem())});
+    return bodies;
 }
 
 #endif

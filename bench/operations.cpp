@@ -100,6 +100,15 @@ std::shared_ptr<sdp_container> parsed(const std::string &text)
     return container;
 }
 
+call prepared(const operation &operation, const body &body)
+{
+    try {
+        return operation.prepare(body);
+    } catch (const std::runtime_error &) {
+        return {};
+    }
+}
+
 call parse_both(const body &body)
 {
     return [offer = body.text, answer = body.answer]() mutable {

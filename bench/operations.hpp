@@ -23,6 +23,9 @@ extern const operation operations[6];
 // Parses a text; the last owner releases what was read. Throws when the text does not parse.
 std::shared_ptr<sdp_container> parsed(const std::string &text);
 
+// The operation's call, or an empty one where the body does not let it be made.
+call prepared(const operation &operation, const body &body);
+
 // Parses an answer and its offer, as a client does before it validates the one against the other.
 call parse_both(const body &body);
 

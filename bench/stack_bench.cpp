@@ -156,29 +156,14 @@ const operation further_operations[] = {
     {"lower layer: encode", encode_document},       {"lower layer: read a=fmtp lines", read_fmtp_lines},
     {"decode parameters", decode_parameters},       {"encode parameters", encode_parameters}};
 
-// Each body answers itself, apart from those that have an answer.
-std::vector<body> all_bodies()
-{
-    std::vector<body> bodies = measured_bodies();
-    for (const auto &file : std::filesystem::directory_iterator(DAKSDP_EXAMPLES))
-        if (file.path().extension() == ".sdp")
-            bodies.push_back({file.path().stem(), example(file.path().stem()), example(file.path().stem())});
-    return bodies;
-}
-
 // 0 for a body that the call cannot be made on.
 std::size_t depth_on(const operation &operation, const body &body)
 {
-    call prepared;
-    try {
-        prepared = operation.prepare(body);
-    } catch (const std::runtime_error &) {
+    const call each = prepared(operation, body);
+    if (!each)
         return 0;
-    }
-    if (!prepared)
-        return 0;
-    prepared(); // the first call of a kind pays for what the C library sets up
-    return depth(prepared);
+    each(); // the first call of a kind pays for what the C library sets up
+    return depth(each);
 }
 
 void print_deepest(const operation &operation, const std::vector<body> &bodies)

@@ -5,6 +5,7 @@ file(GLOB_RECURSE daksdp_sources CONFIGURE_DEPENDS ${daksdp_patterns})
 # Compiled once: both libraries hold the same objects.
 add_library(daksdp_objects OBJECT ${daksdp_sources})
 daksdp_library_flags(daksdp_objects)
+daksdp_profile(daksdp_objects)
 target_include_directories(daksdp_objects PRIVATE ${PROJECT_SOURCE_DIR}/src)
 
 # A released shared library is optimised as a whole, which takes objects that no other compiler can read.
@@ -16,6 +17,7 @@ endif()
 if(daksdp_is_whole)
     add_library(daksdp SHARED ${daksdp_sources})
     daksdp_library_flags(daksdp)
+    daksdp_profile(daksdp)
     set_target_properties(daksdp PROPERTIES INTERPROCEDURAL_OPTIMIZATION ON)
     # In one piece, which is small enough for that: code that is split is inlined less.
     target_link_options(daksdp PRIVATE $<$<C_COMPILER_ID:GNU>:-flto-partition=one>)
