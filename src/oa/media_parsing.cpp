@@ -15,6 +15,7 @@
 #include "sdp/media_description.h"
 #include "sdp/media_values.h"
 #include "sdp/rtcp_address.h"
+#include "util/fixed_text.hpp"
 #include "util/number.hpp"
 
 using namespace dak;
@@ -86,7 +87,7 @@ void read_properties(const attribute_finder &attributes, sdp_media_line &mline)
 
 // An attribute whose value is a number; `failure` is logged for one that is none, if there is a text.
 struct number_attribute {
-    const char *name;
+    fixed_text<10> name;
     uint8_t sdp_media_line::*is_present;
     uint16_t sdp_media_line::*value;
     const char *failure;
