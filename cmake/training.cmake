@@ -10,3 +10,4 @@ endfunction()
 
 daksdp_training(daksdp)
 daksdp_training(daksdp_static)
+add_custom_target(training COMMAND training_daksdp COMMAND training_daksdp_static)
