@@ -5,6 +5,16 @@ set_property(CACHE DAKSDP_PROFILE PROPERTY STRINGS "" "record" "use")
 set(DAKSDP_PROFILE_FILE ${PROJECT_BINARY_DIR}/daksdp.profdata CACHE FILEPATH
     "Clang's merged profile; GCC keeps a part beside each object")
 
+if(NOT DAKSDP_PROFILE MATCHES "^(record|use)?$")
+    message(FATAL_ERROR "daksdp: DAKSDP_PROFILE is empty, \"record\" or \"use\"")
+endif()
+if(DAKSDP_PROFILE STREQUAL "use" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    file(GLOB_RECURSE daksdp_profiles ${PROJECT_BINARY_DIR}/*.gcda)
+    if(NOT daksdp_profiles)
+        message(FATAL_ERROR "daksdp: no profile was recorded in ${PROJECT_BINARY_DIR}; scripts/pgo does it")
+    endif()
+endif()
+
 function(daksdp_profile target)
     if(DAKSDP_PROFILE STREQUAL "record")
         set(flags -fprofile-generate)
