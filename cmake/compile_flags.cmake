@@ -23,7 +23,9 @@ function(daksdp_library_flags target)
         # Calls inside the library are bound at link time, so they may be inlined as well.
         -fno-semantic-interposition
         # Nothing is thrown through this library. The smallest build gives up backtraces out of it, too.
-        "$<$<CONFIG:MinSizeRel>:-fno-unwind-tables;-fno-asynchronous-unwind-tables;-fomit-frame-pointer>")
+        "$<$<CONFIG:MinSizeRel>:-fno-unwind-tables;-fno-asynchronous-unwind-tables;-fomit-frame-pointer>"
+        # Clang's -Os, which CMake asks for, still gives size for speed.
+        "$<$<AND:$<CXX_COMPILER_ID:Clang>,$<CONFIG:MinSizeRel>>:-Oz>")
     # With debugging information the code of Release, which is made for speed. GCC would call many of the
     # functions that it may inline: most of them are short and have few callers, and the shared library, whose
     # exports all stay, may grow by as much as it has.

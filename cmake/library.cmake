@@ -21,8 +21,8 @@ if(daksdp_is_whole)
     set_target_properties(daksdp PROPERTIES INTERPROCEDURAL_OPTIMIZATION ON)
     # In one piece, which is small enough for that: code that is split is inlined less.
     target_link_options(daksdp PRIVATE $<$<C_COMPILER_ID:GNU>:-flto-partition=one>)
-    # Addresses of this model reach a megabyte, which is more than there is.
-    if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)")
+    # Addresses of this model reach a megabyte, which is more than there is. Not every linker of Clang's knows it.
+    if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         target_compile_options(daksdp PRIVATE -mcmodel=tiny)
         target_link_options(daksdp PRIVATE -mcmodel=tiny)
     endif()
