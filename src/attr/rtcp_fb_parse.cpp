@@ -23,11 +23,10 @@ struct feedback_tail {
     text_range param;
 };
 
-// Takes the next word off `rest` when it is `word`.
+// Takes the next word off `rest` when it is `word`. Tabs belong to words.
 bool take_if(text_range &rest, const char *word)
 {
     text_range ahead = rest;
-    ahead.skip_blanks();
     if (!ahead.take_word().equals(word))
         return false;
     rest = ahead;
@@ -36,6 +35,7 @@ bool take_if(text_range &rest, const char *word)
 
 feedback_tail read_nack(text_range rest)
 {
+    rest.skip_blanks();
     const uint32_t subtype = take_if(rest, "pli") ? RTCP_FB_NACK_PLI : RTCP_FB_NACK_PLAIN;
     return {RTCP_FB_NACK, subtype, true, rest.trimmed()};
 }
@@ -164,7 +164,7 @@ int dak_sdp_parse_a_equal_rtcp_fb_line(media_description *description, const cha
     const type_and_value line = split_type_and_value(line_start, line_end, ":", nullptr);
     if (line.parts != 2)
         return fail();
-    const text_range rest = text_range(line.next, line_end).trimmed();
+    const text_range rest(line.next, line_end);
     if (line.value.equals("*"))
         return store_wildcard(description->rtcp_fb, rest);
     uint32_t number = 0;

@@ -138,8 +138,8 @@ int set_attr_value_by_mime(const char *name, const char *value, char (*names)[20
 const char *get_attr_value_by_mime(const char *name, char (*names)[200], char (*values)[200],
                                    const uint32_t *present, uint8_t count)
 {
-    if (names == nullptr || values == nullptr || present == nullptr)
+    if (name == nullptr || names == nullptr || values == nullptr || present == nullptr)
         return fail_null();
-    const int slot = find_slot(name != nullptr ? name : "", names, count);
+    const int slot = find_slot(name, names, count);
     return slot != no_slot && present[slot] == 1 ? values[slot] : nullptr;
 }

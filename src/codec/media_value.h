@@ -53,12 +53,13 @@ int set_attr_value_by_mime(const char *name, const char *value, char (*names)[20
 
 /**
  * Reads the value of the slot of that name.
- * @param name terminated name; null counts as empty
+ * @param name terminated name
  * @param names the record's slot names
  * @param values the record's values
  * @param present the record's flags
  * @param count slots in use, at most 25
- * @return the value, owned by the record; null when no slot has that name or its value was never set
+ * @return the value, owned by the record; null when no slot has that name or its value was never set, and, with
+ *         an assertion report, for null
  */
 const char *get_attr_value_by_mime(const char *name, char (*names)[200], char (*values)[200],
                                    const uint32_t *present, uint8_t count);

@@ -79,16 +79,14 @@ void set_status(sdp_precondition &entry, uint32_t status_type, uint32_t directio
     }
 }
 
-uint32_t read_strength(text_range &rest, sdp_precondition &entry)
+uint32_t read_strength(text_range &rest, uint32_t &strength)
 {
-    if (entry.kind != PCD_DES)
-        return SDP_OA_SUCCESS;
-    const word *strength = find_word(strength_words, rest.take_token(delimiters));
-    if (strength == nullptr) {
+    const word *found = find_word(strength_words, rest.take_token(delimiters));
+    if (found == nullptr) {
         DAK_LOG("dak_app_oa_parse_pre_cond_str :                               invalid strength \n");
         return SDP_OA_INVALID_CONTENT;
     }
-    entry.desired.strength = strength->value;
+    strength = found->value;
     return SDP_OA_SUCCESS;
 }
 
@@ -111,14 +109,20 @@ uint32_t read_word(text_range &rest, const Word (&words)[N], const char *missing
     return SDP_OA_SUCCESS;
 }
 
-uint32_t read_status(text_range &rest, sdp_precondition &entry)
+// Reads the words behind the type; the entry takes them when all of them are known.
+uint32_t read_words(text_range &rest, sdp_precondition &entry)
 {
+    uint32_t strength = 0;
     uint32_t status_type = 0;
     uint32_t direction = 0;
-    uint32_t result =
-        read_word(rest, status_words,
-                  "dak_app_oa_parse_pre_cond_str :                              Status Type not avail \n",
-                  "dak_app_oa_parse_pre_cond_str :                             invalid link \n", status_type);
+    uint32_t result = SDP_OA_SUCCESS;
+    if (entry.kind == PCD_DES)
+        result = read_strength(rest, strength);
+    if (result == SDP_OA_SUCCESS)
+        result = read_word(
+            rest, status_words,
+            "dak_app_oa_parse_pre_cond_str :                              Status Type not avail \n",
+            "dak_app_oa_parse_pre_cond_str :                             invalid link \n", status_type);
     if (result == SDP_OA_SUCCESS)
         result = read_word(
             rest, precondition_direction_words,
@@ -131,6 +135,8 @@ uint32_t read_status(text_range &rest, sdp_precondition &entry)
                 static_cast<int>(entry.kind));
         return SDP_OA_INVALID_CONTENT;
     }
+    if (entry.kind == PCD_DES)
+        entry.desired.strength = strength;
     set_status(entry, status_type, direction);
     return SDP_OA_SUCCESS;
 }
@@ -181,6 +187,5 @@ uint32_t dak_app_oa_parse_pre_cond_str(const char *value, sdp_precondition *entr
     }
     entry->precond_type =
         find_word(precondition_type_words, type) != nullptr ? SDP_PRECOND_QOS : SDP_PRECOND_UNKNOWN;
-    const uint32_t result = read_strength(rest, *entry);
-    return result == SDP_OA_SUCCESS ? read_status(rest, *entry) : result;
+    return read_words(rest, *entry);
 }

@@ -18,18 +18,8 @@ bool are_payloads_valid(const uint32_t *payload_numbers, int payload_count)
            (payload_count == 0 || payload_numbers != nullptr);
 }
 
-// Of a record's texts, the first characters are enough. A body may name hundreds of formats, whose records
-// take 12 KB each.
-void clear(media_info &info)
-{
-    for (int slot = 0; slot < MEDIA_INFO_MAX_SLOTS; slot++) {
-        info.param_name[slot][0] = '\0';
-        info.param_value[slot][0] = '\0';
-        info.param_present[slot] = 0;
-    }
-}
-
-// Empties a record but for its parameters, which a format gets with its name.
+// Empties a record of 12 KB but for its parameters, which a format gets with its name. Of texts, the first
+// characters are enough.
 void clear(media_codec &codec)
 {
     codec.rtpmap_valid = 0;
@@ -94,11 +84,11 @@ int dak::allocate_codecs(media_description &description, int count, audience see
     const int kept = description.codecs != nullptr ? description.codec_capacity : 0;
     if (kept > 0)
         memcpy(codecs, description.codecs, static_cast<size_t>(kept) * sizeof(media_codec));
-    for (int i = kept; i < count; i++) {
-        clear(codecs[i]);
-        if (seen_by == audience::caller)
-            clear(codecs[i].info);
-    }
+    if (seen_by == audience::caller)
+        memset(codecs + kept, 0, size - static_cast<size_t>(kept) * sizeof(media_codec));
+    else
+        for (int i = kept; i < count; i++)
+            clear(codecs[i]);
     dak_free(description.codecs);
     description.codecs = codecs;
     description.codec_capacity = count;
