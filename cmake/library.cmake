@@ -2,7 +2,7 @@ set(daksdp_folders util codec attr sdp oa)
 list(TRANSFORM daksdp_folders REPLACE "(.+)" "${PROJECT_SOURCE_DIR}/src/\\1/*.cpp" OUTPUT_VARIABLE daksdp_patterns)
 file(GLOB_RECURSE daksdp_sources CONFIGURE_DEPENDS ${daksdp_patterns})
 
-# Compiled once: both libraries hold the same objects.
+# What the static library holds, and the shared one where it is not optimised as a whole.
 add_library(daksdp_objects OBJECT ${daksdp_sources})
 daksdp_library_flags(daksdp_objects)
 daksdp_profile(daksdp_objects)

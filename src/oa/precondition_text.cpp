@@ -68,15 +68,13 @@ uint32_t add_status(text_writer &text, const sdp_precondition &entry)
     return SDP_OA_TOO_LONG;
 }
 
-// Stores the status type and the direction where the entry's kind has them.
-void set_status(sdp_precondition &entry, uint32_t status_type, uint32_t direction)
+// Stores what was read where the entry's kind has it.
+void set_words(sdp_precondition &entry, uint32_t strength, uint32_t status_type, uint32_t direction)
 {
-    if (entry.kind == PCD_DES) {
-        entry.desired.status_type = status_type;
-        entry.desired.direction = direction;
-    } else {
+    if (entry.kind == PCD_DES)
+        entry.desired = {strength, status_type, direction};
+    else
         entry.status = {status_type, direction};
-    }
 }
 
 uint32_t read_strength(text_range &rest, uint32_t &strength)
@@ -135,9 +133,7 @@ uint32_t read_words(text_range &rest, sdp_precondition &entry)
                 static_cast<int>(entry.kind));
         return SDP_OA_INVALID_CONTENT;
     }
-    if (entry.kind == PCD_DES)
-        entry.desired.strength = strength;
-    set_status(entry, status_type, direction);
+    set_words(entry, strength, status_type, direction);
     return SDP_OA_SUCCESS;
 }
 

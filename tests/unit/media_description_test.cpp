@@ -35,6 +35,15 @@ TEST_F(MediaDescription, is_created_whole_or_not_at_all)
     EXPECT_EQ(empty->codecs, nullptr);
 }
 
+TEST_F(MediaDescription, codecs_begin_as_zeroes)
+{
+    const uint32_t numbers[] = {97, 0};
+    const section_ptr made(init_media_description("audio", 1, 1, "RTP/AVP", numbers, 2));
+    EXPECT_EQ(set_payload_number(made.get(), 101), 1) << "needs a codec more";
+    const std::string bytes(reinterpret_cast<const char *>(made->codecs), 3 * sizeof(media_codec));
+    EXPECT_EQ(bytes.find_first_not_of('\0'), bytes.npos);
+}
+
 TEST_F(MediaDescription, texts_are_given_with_their_length)
 {
     EXPECT_EQ(call(set_media_type, section, heap_text("video \r").data(), 7), done);
