@@ -4,6 +4,7 @@
 
 #include "oa/sdp_container.h"
 #include "util/bounded_text.hpp"
+#include "util/report.hpp"
 
 namespace dak {
 
@@ -11,7 +12,7 @@ namespace dak {
 inline constexpr size_t precondition_size = sizeof "qos mandatory remote sendrecv";
 
 // dak_app_oa_encode_pre_cond_str() for a text with that room.
-uint32_t add_precondition(text_writer &text, const sdp_precondition &entry);
+DAK_OUT_OF_LINE uint32_t add_precondition(text_writer &text, const sdp_precondition &entry);
 
 } // namespace dak
 

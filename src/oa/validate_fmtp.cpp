@@ -212,7 +212,8 @@ uint32_t dak_app_oa_validate_dtmf_fmtp(uint32_t direction, uint32_t format_index
         [=](const sdp_tel_event_params &tel_event) { return check_events(tel_event, direction); });
 }
 
-int dak_app_oa_form_dtmf_evt_list(const sdp_tel_event_params *block, uint16_t *events, uint8_t *num_events)
+DAK_OUT_OF_LINE int dak_app_oa_form_dtmf_evt_list(const sdp_tel_event_params *block, uint16_t *events,
+                                                  uint8_t *num_events)
 {
     if (block == nullptr || events == nullptr || num_events == nullptr) {
         DAK_LOG("dak_app_oa_get_chl_direction: Null params");

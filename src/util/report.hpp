@@ -12,6 +12,10 @@
 #define DAK_LOG_(text) dak::log_text(dak::without_conversions(text))
 #define DAK_LOG_FORMAT(...) __android_log_print(6, nullptr, __VA_ARGS__)
 
+// Keeps a function out of its callers. Checks of bounds that none of them exceeds then stay in the library with
+// the texts that they log, and a build can be searched for these.
+#define DAK_OUT_OF_LINE __attribute__((__noinline__))
+
 namespace dak {
 
 // Reports an assertion and gives the failure value of the functions that return 1 or 0.

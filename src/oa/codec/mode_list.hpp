@@ -3,6 +3,7 @@
 #define DAKSDP_OA_CODEC_MODE_LIST_HPP
 
 #include "util/bounded_text.hpp"
+#include "util/report.hpp"
 
 #include <stdint.h>
 
@@ -16,7 +17,7 @@ struct mode_list_rule {
 };
 
 // Adds modes 0 to 7 of a map; gives the mode that did not fit, or -1.
-int add_modes(text_writer &list, uint32_t mode_map);
+DAK_OUT_OF_LINE int add_modes(text_writer &list, uint32_t mode_map);
 
 // Reads a list: one digit a token, further modes than the rule's most ignored. `is_present` becomes 1 unless
 // a token could not be read or there is none. Gives 0; 1 for too long a text, 4 for too high a mode, both
